@@ -1,0 +1,3 @@
+#pragma once
+
+#define ZK_PLUGIN_EXPORT __attribute__((visibility("default")))

@@ -1,0 +1,29 @@
+// Cameras of one scene: resolution and stereo flag from the camera sections,
+// and the output drivers that render through each camera.
+#pragma once
+
+#include "shared/zkString.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+struct _camNode
+{
+    _zkString8_allSize<150> name;
+    int resX = 0;
+    int resY = 0;
+    bool isStereo = false;
+    QStringList renderNodes;
+};
+
+class _camList
+{
+public:
+    int findCamIndex(_zkString8_allSize<150> const& name);
+    int findCamIndexByRenderNode(QString const& driverPath) const;
+    void addCamFromOutNode(_zkString8_allSize<150> camera, QString const& driverPath);
+    void addCam(_camNode& cam);
+
+    QList<_camNode> list;
+};

@@ -1,0 +1,30 @@
+// LOP nodes of one scene: image output and renderer, and the drivers that render them.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+struct _LOPNode
+{
+    QString nodePath;
+    QString imageOut;
+    QString renderer;
+    bool imageUsesTake = false;
+    QStringList renderNodes;
+
+    void setRenderer(QString const& hint);
+    QString rendererName_render() const;
+    QString rendererName_create() const;
+};
+
+class _LOPList
+{
+public:
+    int findLOPIndex(QString const& nodePath, bool const& create);
+    int findLOPIndexByRenderNode(QString const& driverPath) const;
+    int addLOPFromOutNode(QString lopPath, QString const& driverPath);
+    void addLOP(_LOPNode& node);
+
+    QList<_LOPNode> list;
+};

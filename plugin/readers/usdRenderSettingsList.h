@@ -1,0 +1,32 @@
+// USD render-settings nodes of one scene and the drivers registered with them.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+struct _USD_RendersettingNode
+{
+    QString nodePath;
+    QString camera;
+    bool imageUsesTake = false;
+    bool archiveEnabled = false;
+    bool archiveControlSet = false;
+    QString archiveFile;
+    bool spareFlag = false;
+    QStringList renderNodes;
+
+    _USD_RendersettingNode() { clear(); }
+    void clear();
+};
+
+class _USD_RSList
+{
+public:
+    int findIndex(QString const& nodePath, bool const& create);
+    int findIndexByROP(QString const& driverPath) const;
+    int addFromROP(QString name, QString const& driverPath);
+    int add(_USD_RendersettingNode& node);
+
+    QList<_USD_RendersettingNode> list;
+};

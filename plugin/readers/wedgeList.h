@@ -1,0 +1,28 @@
+// Wedge drivers of one scene and their parameters.
+#pragma once
+
+#include <QList>
+#include <QString>
+
+struct _wedgeParams
+{
+    QString name;
+    double rangeStart = 0.0;
+    double rangeEnd = 0.0;
+    int steps = 0;
+
+    double valueIdx(int const& i) const;
+};
+
+struct _wedgeNode
+{
+    QString prefix;
+    QString nodePath;
+    QString driver;
+    QString wedgeMethod;
+    QList<_wedgeParams> params;
+    int total = -1;
+
+    int totalWedges();
+    QString getWedgeFileName(int index);
+};

@@ -1,0 +1,114 @@
+// The two entry points the host resolves by name.
+#include "loadContext.h"
+#include "loadResult.h"
+#include "parserState.h"
+#include "plugin/lineSource.h"
+#include "pluginExport.h"
+#include "zkPluginRecords.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTextStream>
+#include <QtGlobal>
+
+#include <cstring>
+
+namespace {
+
+constexpr const char* AppName = "Houdini";
+constexpr const char* AuthorText = "zk scene parser authors";
+constexpr const char* PluginVersion = "1.0";
+constexpr const char* FileFilter = "*.hip;*.hipnc;*.hiplc;";
+constexpr int QtVersionCapacity = 25;
+
+QStringList submitterArguments(const zkP::_submitterSettings* settings)
+{
+    QStringList args;
+    if (!settings || !settings->argv)
+        return args;
+    for (int i = 1; i < settings->argc; ++i) {
+        const char* arg = settings->argv[i];
+        args.append(arg ? QString::fromLocal8Bit(arg) : QString());
+    }
+    return args;
+}
+
+bool isArgument(const QString& arg, const char* word)
+{
+    return arg.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
+}
+
+int loadScene(zkP::_dataPARS_LoadSceneFile& data)
+{
+    if (!data.jobs || !data.jobs->isVersionSupported(1))
+        return LoadUnsupportedArray;
+
+    LoadContext ctx;
+    ctx.data = &data;
+    ctx.arguments = submitterArguments(data.settings);
+    for (const QString& arg : qAsConst(ctx.arguments)) {
+        if (isArgument(arg, "-houdiniBuildVersion"))
+            ctx.buildVersionSwitch = true;
+        else if (isArgument(arg, "-houdiniCompressedIFD"))
+            ctx.compressedExportSwitch = true;
+    }
+
+    if (!data.sceneFile)
+        return LoadCannotOpen;
+    ctx.scenePath = data.sceneFile->toQString();
+    // Anything but a regular file (directory, FIFO, device) could block or
+    // never end; refuse it before opening.
+    if (!QFileInfo(ctx.scenePath).isFile())
+        return LoadCannotOpen;
+    QFile file(ctx.scenePath);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return LoadCannotOpen;
+
+    resetParserState();
+    QTextStream stream(&file);
+    LineSource in(stream);
+    QString line;
+    while (in.next(line)) { }
+    file.close();
+    return LoadOk;
+}
+
+} // namespace
+
+extern "C" ZK_PLUGIN_EXPORT int pInfo(zkP::_dataPARS_PluginInfo* info)
+{
+    if (!info)
+        return InfoWrongIdentifier;
+    info->managerVersion.setLatin1(zkVersion);
+    if (const char* qt = qVersion()) {
+        const int n = int(std::strlen(qt));
+        unsigned short units[QtVersionCapacity];
+        const int cut = n < QtVersionCapacity ? n : QtVersionCapacity;
+        for (int i = 0; i < cut; ++i)
+            units[i] = static_cast<unsigned char>(qt[i]);
+        info->qtVersion.setUnits(units, cut);
+    }
+    info->infoVersion = 1;
+    info->appName.setLatin1(AppName);
+    info->author.setLatin1(AuthorText);
+    info->pluginVersion.setLatin1(PluginVersion);
+
+    const unsigned short identifier = info->structureID;
+    info->structureID = zkP::PluginInfoStructureID;
+    if (identifier != zkP::PluginInfoStructureID)
+        return InfoWrongIdentifier;
+    info->flag = 0;
+    info->fileFilter.setLatin1(FileFilter);
+    return InfoOk;
+}
+
+extern "C" ZK_PLUGIN_EXPORT int pLoadSceneFile(zkP::_dataPARS_LoadSceneFile* data)
+{
+    if (!data)
+        return LoadUnsupportedArray;
+    try {
+        return loadScene(*data);
+    } catch (...) {
+        return LoadInternalError;
+    }
+}
