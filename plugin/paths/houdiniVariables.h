@@ -1,0 +1,14 @@
+// Expansion of the Houdini variables whose values are known at parse time.
+#pragma once
+
+#include "jobs/ZK_DataTypes_jobs0_Basics.h"
+#include "plugin/parserState.h"
+#include "shared/zkString.h"
+
+#include <QList>
+#include <QString>
+
+/// Replaces $HIPNAME, $HIP, the scene's own variables, $OS and the frame-range
+/// variables in \p path (matched ignoring case, in a fixed order) and returns it.
+QString replaceHoudiniVariables(QString path, zkJ::_JobBasics_largePath* job,
+    QList<_namevalue>& variables, _zkString<500> const& sceneFile);

@@ -1,0 +1,12 @@
+// Conversion of an output parameter line into the job's image path forms.
+#pragma once
+
+#include <QString>
+
+/// Takes the value out of a parameter \p line, turns the first Houdini frame
+/// token into a printf placeholder and the active-take token into "<Channel>".
+/// Returns true when a path was stored in \p imageOut (put in front of it when
+/// \p prepend). \p takeFound only ever becomes true; \p singleFile is true when
+/// the value holds no frame token.
+bool replaceImageOutVars(
+    QString line, bool const& prepend, QString& imageOut, bool& takeFound, bool& singleFile);

@@ -1,0 +1,8 @@
+#include "readerCommon.h"
+
+bool loadLOPNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& line)
+{
+    (void)data;
+    skipSection(in, line);
+    return true;
+}
