@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# Builds the plugin and the command-line host, then lists the jobs of the
+# bundled example scene.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+bash scripts/install-deps.sh
+cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo
+cmake --build build -j"$(nproc)" --target hipjobs
+build/bin/hipjobs examples/simple.hip "$@"
