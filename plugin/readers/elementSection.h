@@ -1,0 +1,79 @@
+// Text rules shared by the camera, wedge, LOP and USD render-settings readers:
+// the node path taken from a section's header line, the value of a parameter
+// line, and the channel-expression prefix that drivers put around node paths.
+#pragma once
+
+#include <QLatin1String>
+#include <QString>
+#include <QStringView>
+
+namespace elementSection {
+
+/// Keyword at the start of a line, ignoring case.
+inline bool hasKeyword(QStringView line, QLatin1String keyword)
+{
+    return line.startsWith(keyword, Qt::CaseInsensitive);
+}
+
+/// Text from \p from up to, not including, the first ".parm", with "/" in front.
+/// A header without ".parm" gives "/" alone.
+inline QString nodePathFrom(const QString& header, qsizetype from)
+{
+    const QStringView rest = QStringView(header).mid(from < 0 ? 0 : from);
+    const qsizetype parm = rest.indexOf(QLatin1String(".parm"));
+    return u'/' + (parm < 0 ? QString() : rest.left(parm).toString());
+}
+
+/// Node path of a camera or wedge section: from the first "out/", else from the
+/// first "obj/" (else from the start).
+inline QString nodePathOutObj(const QString& header)
+{
+    qsizetype at = header.indexOf(QLatin1String("out/"));
+    if (at < 0)
+        at = header.indexOf(QLatin1String("obj/"));
+    return nodePathFrom(header, at);
+}
+
+/// Node path of a LOP or render-settings section: from the first "out/", else
+/// "stage/", else "img/", else "obj/" (else from the start).
+inline QString nodePathStage(const QString& header)
+{
+    for (QLatin1String network : { QLatin1String("out/"), QLatin1String("stage/"),
+             QLatin1String("img/"), QLatin1String("obj/") }) {
+        const qsizetype at = header.indexOf(network);
+        if (at >= 0)
+            return nodePathFrom(header, at);
+    }
+    return nodePathFrom(header, 0);
+}
+
+/// The value between the first "(" and the first ")" after it, without double
+/// quotes, trimmed. A line with no ")" behind its "(" has no value.
+inline QString bracketValue(const QString& line)
+{
+    const qsizetype open = line.indexOf(u'(');
+    const qsizetype close = line.indexOf(u')', open + 1);
+    if (close < 0)
+        return QString();
+    QString value = line.mid(open + 1, close - open - 1);
+    value.remove(u'"');
+    return value.trimmed();
+}
+
+/// Drivers may name a node through `chsop(\"...\")`; that wrapper loses its
+/// first nine characters and its last one.
+inline bool isChsopWrapped(QStringView text)
+{
+    return text.startsWith(QLatin1String("`chsop(\\"));
+}
+
+inline QString unwrapChsop(QString text)
+{
+    if (!isChsopWrapped(text))
+        return text;
+    text.remove(0, 9);
+    text.chop(1);
+    return text;
+}
+
+} // namespace elementSection

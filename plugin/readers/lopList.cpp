@@ -1,0 +1,86 @@
+#include "lopList.h"
+
+#include "elementSection.h"
+
+namespace {
+
+struct RendererKeyword
+{
+    QLatin1String keyword;
+    QLatin1String renderer;
+};
+
+/// Tried in this order; the first keyword found names the renderer.
+const RendererKeyword RendererKeywords[] = {
+    { QLatin1String("karma"), QLatin1String("karma") },
+    { QLatin1String("hdprman"), QLatin1String("prman") },
+    { QLatin1String("vray"), QLatin1String("vray") },
+    { QLatin1String("redshift"), QLatin1String("redshift") },
+    { QLatin1String("arnold"), QLatin1String("arnold") },
+};
+
+} // namespace
+
+void _LOPNode::setRenderer(QString const& hint)
+{
+    const QString& text = hint.isEmpty() ? nodePath : hint;
+    for (const RendererKeyword& row : RendererKeywords) {
+        if (text.contains(row.keyword, Qt::CaseInsensitive)) {
+            renderer = row.renderer;
+            return;
+        }
+    }
+}
+
+QString _LOPNode::rendererName_render() const
+{
+    if (renderer.isEmpty())
+        return QStringLiteral("usd");
+    return QStringLiteral("usd_") + renderer;
+}
+
+QString _LOPNode::rendererName_create() const
+{
+    if (renderer.isEmpty())
+        return QStringLiteral("createUSD");
+    return QStringLiteral("createUSD_") + renderer;
+}
+
+int _LOPList::findLOPIndex(QString const& nodePath, bool const& create)
+{
+    for (int i = 0; i < list.size(); ++i) {
+        if (list.at(i).nodePath.compare(nodePath, Qt::CaseInsensitive) == 0)
+            return i;
+    }
+    if (!create)
+        return -1;
+    _LOPNode node;
+    node.nodePath = nodePath;
+    list.append(node);
+    return int(list.size()) - 1;
+}
+
+int _LOPList::findLOPIndexByRenderNode(QString const& driverPath) const
+{
+    for (int i = 0; i < list.size(); ++i) {
+        if (list.at(i).renderNodes.contains(driverPath, Qt::CaseSensitive))
+            return i;
+    }
+    return -1;
+}
+
+int _LOPList::addLOPFromOutNode(QString lopPath, QString const& driverPath)
+{
+    const int index = findLOPIndex(elementSection::unwrapChsop(lopPath), true);
+    list[index].renderNodes.append(driverPath);
+    return index;
+}
+
+void _LOPList::addLOP(_LOPNode& node)
+{
+    _LOPNode& entry = list[findLOPIndex(node.nodePath, true)];
+    entry.nodePath = node.nodePath;
+    entry.imageOut = node.imageOut;
+    entry.imageUsesTake = node.imageUsesTake;
+    entry.setRenderer(QString());
+}
