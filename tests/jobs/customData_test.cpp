@@ -1,0 +1,185 @@
+#include "jobs/ZK_DataTypes_jobs0_Basics.h"
+#include "jobs/ZK_DataTypes_jobs_defines.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace zkJ;
+
+namespace {
+
+std::unique_ptr<_JobBasics> newJob()
+{
+    return std::make_unique<_JobBasics>();
+}
+
+} // namespace
+
+TEST(CustomData, ValuesRoundTripIn8And16Bit)
+{
+    auto job = newJob();
+    const QString latin = QStringLiteral("caf\u00e9 -v");
+    const QString wide = QStringLiteral("\u65e5\u672c x");
+    job->customDataSet_Str(QStringLiteral("AddCmdFlags"), latin);
+    job->customDataSet_Str(QStringLiteral("Note"), wide);
+
+    EXPECT_EQ(job->customData_Str(QStringLiteral("addcmdflags")), latin);
+    EXPECT_EQ(job->customData_Str(QStringLiteral("Note")), wide);
+    EXPECT_EQ(job->customData_maxIDs(), 2);
+
+    // Entry table: kind, BE offset, BE length, name, zero.
+    const unsigned char* d = job->customData;
+    EXPECT_EQ(d[0], 'c');
+    EXPECT_EQ(d[3] * 256 + d[4], latin.size());
+    const int second = 6 + 11;
+    EXPECT_EQ(d[second], 'u');
+    EXPECT_EQ(job->customDataValuesStart, second + 6 + 4);
+    const int wideStart = d[second + 1] * 256 + d[second + 2];
+    EXPECT_EQ(d[wideStart], 0x65);
+    EXPECT_EQ(d[wideStart + 1], 0xe5);
+    EXPECT_EQ(job->customDataUsed, job->customDataValuesStart + int(latin.size()) + 2 * 4);
+}
+
+TEST(CustomData, ReplaceIgnoresCaseAndKeepsFirstSpelling)
+{
+    auto job = newJob();
+    job->customDataSet_Str(QStringLiteral("a"), QStringLiteral("x"));
+    job->customDataSet_Str(QStringLiteral("A"), QStringLiteral("y"));
+    EXPECT_EQ(job->customData_maxIDs(), 1);
+    EXPECT_EQ(job->customData_NameByID(0), QStringLiteral("a"));
+    EXPECT_EQ(job->customData_StrByID(0), QStringLiteral("y"));
+
+    job->customDataAppend_Str(QStringLiteral("a"), QStringLiteral("z"));
+    EXPECT_EQ(job->customData_Str(QStringLiteral("A")), QStringLiteral("yz"));
+}
+
+TEST(CustomData, EmptyValueDeletesAndClosesTheGap)
+{
+    auto job = newJob();
+    job->customDataSet_All(
+        QStringList { QStringLiteral("k1"), QStringLiteral("k2"), QStringLiteral("k3") },
+        QStringList { QStringLiteral("v1"), QStringLiteral("v2"), QStringLiteral("v3") });
+    job->customDataSet_Str(QStringLiteral("K2"), QString());
+    EXPECT_EQ(job->customData_maxIDs(), 2);
+    EXPECT_FALSE(job->customData_Contains(QStringLiteral("k2")));
+    EXPECT_EQ(job->customData_NameByID(1), QStringLiteral("k3"));
+    EXPECT_EQ(job->customData_StrByID(1), QStringLiteral("v3"));
+
+    // Deleting an absent key changes nothing.
+    auto before = newJob();
+    *before = *job;
+    job->customDataSet_Str(QStringLiteral("absent"), QString());
+    EXPECT_TRUE(job->customData_isEqual(before.get()));
+    EXPECT_EQ(job->customDataUsed, before->customDataUsed);
+
+    job->customDataSet_StrByID(0, QString());
+    EXPECT_EQ(job->customData_maxIDs(), 1);
+    EXPECT_EQ(job->customData_NameByID(0), QStringLiteral("k3"));
+    job->customDataSet_StrByID(5, QStringLiteral("ignored"));
+    EXPECT_EQ(job->customData_maxIDs(), 1);
+    EXPECT_TRUE(job->customData_NameByID(-1).isEmpty());
+    EXPECT_TRUE(job->customData_StrByID(1).isEmpty());
+}
+
+TEST(CustomData, AdmissionDropsTheEntryThatOverflowsAndAllAfter)
+{
+    auto job = newJob();
+    // name 2 + value 1000 + 5 = 1007 per entry: three fit in 3990, the fourth does not.
+    QStringList names, values;
+    for (int i = 0; i < 5; ++i) {
+        names << QStringLiteral("n%1").arg(i);
+        values << QString(i == 4 ? 1 : 1000, u'v');
+    }
+    job->customDataSet_All(names, values);
+    EXPECT_EQ(job->customData_maxIDs(), 3);
+    EXPECT_FALSE(job->customData_Contains(QStringLiteral("n4")));
+    EXPECT_EQ(job->customDataUsed, 3 * (6 + 2) + 3 * 1000);
+}
+
+TEST(CustomData, SixteenBitValuesNeverPassTheBlock)
+{
+    auto job = newJob();
+    // Each entry is admitted at 2 + 300 + 5 characters but takes 8 + 600 bytes.
+    QStringList names, values;
+    for (int i = 0; i < 12; ++i) {
+        names << QStringLiteral("w%1").arg(i % 10);
+        values << QString(300, QChar(0x4e00 + i));
+    }
+    job->customDataSet_All(names, values);
+    EXPECT_EQ(job->customData_maxIDs(), 6);
+    EXPECT_LE(job->customDataUsed, 4000);
+    EXPECT_EQ(job->customDataUsed, 6 * 8 + 6 * 600);
+    EXPECT_EQ(job->customData_StrByID(5), QString(300, QChar(0x4e05)));
+    // The settings texts behind the block are untouched.
+    EXPECT_EQ(job->settingText2.toQString(), QStringLiteral("<auto>"));
+}
+
+TEST(CustomData, AllAsStringSkipsUserInfoAndComment)
+{
+    auto job = newJob();
+    job->customDataSet_UserInfo(QStringLiteral("me"));
+    job->customDataSet_CommentInfo(QStringLiteral("hello"));
+    EXPECT_TRUE(job->customData_AllAsString().isEmpty());
+    EXPECT_TRUE(job->customData_ContainCommentInfo());
+    EXPECT_EQ(job->customData_UserInfo(), QStringLiteral("me"));
+
+    job->customDataSet_Str(QStringLiteral("AddCmdFlags"), QStringLiteral("-v"));
+    job->customDataSet_Str(QStringLiteral("SubmitClientGroup"), QStringLiteral("gpu"));
+    job->customDataSet_Str(QStringLiteral("comment"), QStringLiteral("still the Comment key"));
+    EXPECT_EQ(job->customData_AllAsString(),
+        QStringLiteral("|AddCmdFlags: '-v' |SubmitClientGroup: 'gpu' "));
+}
+
+TEST(CustomData, ListsAndBlockComparison)
+{
+    auto a = newJob();
+    auto b = newJob();
+    const QStringList names { QStringLiteral("one"), QStringLiteral("two") };
+    const QStringList values { QStringLiteral("1"), QStringLiteral("\u0100") };
+    a->customDataSet_All(names, values);
+    _varValList list;
+    list.add(names[0], values[0]);
+    list.add(names[1], values[1]);
+    b->customDataSet_All(list);
+    EXPECT_TRUE(a->customData_isEqual(b.get()));
+
+    QStringList outNames { QStringLiteral("stale") }, outValues;
+    a->customData_All(outNames, outValues);
+    EXPECT_EQ(outNames, names);
+    EXPECT_EQ(outValues, values);
+
+    b->customDataSet_Str(QStringLiteral("two"), QStringLiteral("2"));
+    EXPECT_FALSE(a->customData_isEqual(b.get()));
+    EXPECT_FALSE(a->customData_isEqual(nullptr));
+}
+
+TEST(CustomData, ValuesAsUppercaseBlockAndClear)
+{
+    auto job = newJob();
+    job->customDataSet_Str(QStringLiteral("a"), QStringLiteral("abc"));
+    job->customDataSet_Str(QStringLiteral("b"), QStringLiteral("x1"));
+    EXPECT_EQ(job->customData_allValuesAsBlock_Uppercase().toQString(), QStringLiteral("ABCX1"));
+
+    job->customData_ClearAll();
+    EXPECT_EQ(job->customData_maxIDs(), 0);
+    EXPECT_TRUE(job->customData_Str(QStringLiteral("a")).isEmpty());
+    EXPECT_TRUE(job->customData_allValuesAsBlock_Uppercase().isEmpty());
+}
+
+TEST(CustomData, CorruptCountersStayInsideTheBlock)
+{
+    auto job = newJob();
+    std::memset(job->customData, 'c', sizeof(job->customData));
+    job->customDataCount = 1000000;
+    job->customDataValuesStart = 1000000;
+    job->customDataUsed = -5;
+    // Whatever comes out, it is read from inside the 4000 bytes.
+    (void)job->customData_Str(QStringLiteral("x"));
+    QStringList n, v;
+    job->customData_All(n, v);
+    EXPECT_EQ(n.size(), 1);
+    EXPECT_TRUE(job->customData_allValuesAsBlock_Uppercase().isEmpty());
+    EXPECT_TRUE(job->customData_sub(3999, 10, CUSTOMData_Mode16bit).isEmpty());
+    EXPECT_EQ(job->customData_sub(3998, 10, CUSTOMData_Mode8bit).size(), 2);
+}
