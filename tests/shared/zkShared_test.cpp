@@ -1,0 +1,161 @@
+#include "shared/zkShared.h"
+
+#include <QByteArray>
+#include <QtGlobal>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace {
+
+TEST(ZkGetDirName, KeepsTheSeparatorAndClimbsFromADirectory)
+{
+    struct Row
+    {
+        const char* path;
+        char16_t sep;
+        const char* expected;
+    };
+    const Row rows[] = {
+        { "/r/img.exr", u'/', "/r/" },
+        { "/proj/shot/render/", u'/', "/proj/shot/" }, // one trailing separator is dropped
+        { "/proj/", u'/', "/" }, { "/", u'/', "" }, { "img.exr", u'/', "" }, { "", u'/', "" },
+        { "C:\\r\\img.exr", u'\\', "C:\\r\\" },
+        { "C:\\r\\img.exr", u'/', "" }, // only the given separator counts
+    };
+    for (const Row& r : rows) {
+        EXPECT_EQ(zkGetDirName(QLatin1String(r.path), r.sep), QLatin1String(r.expected)) << r.path;
+    }
+
+    const QString once = zkGetDirName(QStringLiteral("/proj/shot/render/img.exr"), u'/');
+    EXPECT_EQ(zkGetDirName(once, u'/'), QStringLiteral("/proj/shot/"));
+    EXPECT_EQ(zkGetDirName(zkGetDirName(once, u'/'), u'/'), QStringLiteral("/proj/"));
+}
+
+TEST(ZkGetDirName, FixedCapacityForm)
+{
+    const _zkString<500> p("/proj/shot/render/");
+    EXPECT_EQ(zkGetDirName(p).toQString(), QStringLiteral("/proj/shot/"));
+    EXPECT_EQ(zkGetDirName(zkGetDirName(p)).toQString(), QStringLiteral("/proj/"));
+    EXPECT_TRUE(zkGetDirName(_zkString<500>("file")).isEmpty());
+}
+
+TEST(ZkGetFileNameBase, LastComponentWithoutExtension)
+{
+    struct Row
+    {
+        const char* path;
+        const char* expected;
+    };
+    const Row rows[] = {
+        { "/r/img.exr", "img" },
+        { "/r/img.0001.exr", "img.0001" },
+        { "/r/noext", "noext" },
+        { "/r/.hidden", ".hidden" },
+        { "img.exr", "img" },
+        { "/r/dir/", "" },
+        { "", "" },
+    };
+    for (const Row& r : rows)
+        EXPECT_EQ(zkGetFileNameBase(QLatin1String(r.path), u'/'), QLatin1String(r.expected))
+            << r.path;
+
+    const QString p = QStringLiteral("/r/img.exr");
+    EXPECT_EQ(zkGetDirName(p, u'/') + zkGetFileNameBase(p, u'/'), QStringLiteral("/r/img"));
+}
+
+TEST(ZkPathResolve, LeavesSeparatorsAndTokensAlone)
+{
+    for (const char* p : { "/r/img.%04d.exr", "C:\\r\\<FN4>.exr", "//srv/share/a.####.tif", "" })
+        EXPECT_EQ(zkPathResolve(QLatin1String(p)), QLatin1String(p));
+}
+
+TEST(ZkCharLen, CountsUpToTheFirstZeroUnit)
+{
+    const unsigned short text[] = { 'a', 'b', 'c', 0, 'd', 0 };
+    EXPECT_EQ(zkCharLen(text), 3);
+    const unsigned short empty[] = { 0, 'x' };
+    EXPECT_EQ(zkCharLen(empty), 0);
+}
+
+TEST(ZkChecksums, Crc64IsXZ)
+{
+    EXPECT_EQ(zkCRCCalc64("123456789", 9), 0x995DC9BBDF1939FAULL);
+    EXPECT_EQ(zkCRCCalc64("", 0), 0ULL);
+    EXPECT_NE(zkCRCCalc64("123456789", 8), zkCRCCalc64("123456789", 9));
+}
+
+TEST(ZkChecksums, Sha1DigestKeepsFirstSixteenBytes)
+{
+    const unsigned char abc[] = { 'a', 'b', 'c' };
+    const _zkString8_allSize<16> d = zkCRC_SHA1_16B(abc, 3);
+    ASSERT_EQ(d.length, 16);
+    // SHA-1("abc") = a9993e36 4706816a ba3e2571 7850c26c 9cd0d89d
+    EXPECT_EQ(
+        QByteArray(d.data, 16).toHex(), QByteArrayLiteral("a9993e364706816aba3e25717850c26c"));
+    EXPECT_EQ(d.data[16], 0);
+
+    const _zkString8_allSize<16> empty = zkCRC_SHA1_16B(nullptr, 0);
+    EXPECT_EQ(
+        QByteArray(empty.data, 16).toHex(), QByteArrayLiteral("da39a3ee5e6b4b0d3255bfef95601890"));
+}
+
+TEST(ZkTexts, IllegalFileNameCharactersRemoved)
+{
+    EXPECT_EQ(zkRemoveIllegalCharFromHtmlFile(QStringLiteral("a/b\\c:d*e?f\"g<h>i|j\tk\nl")),
+        QStringLiteral("abcdefghijkl"));
+    EXPECT_EQ(zkRemoveIllegalCharFromHtmlFile(QString::fromUtf8("Layer 1 \xC3\xA9-_.")),
+        QString::fromUtf8("Layer 1 \xC3\xA9-_."));
+}
+
+TEST(ZkTexts, BooleansAndOperatingSystems)
+{
+    EXPECT_EQ(bool2str(true, false), QStringLiteral("true"));
+    EXPECT_EQ(bool2str(false, false), QStringLiteral("false"));
+    EXPECT_EQ(bool2str(true, true), QStringLiteral("true"));
+    EXPECT_EQ(OS2String(zkOS_windows), QStringLiteral("win"));
+    EXPECT_EQ(OS2String(zkOS_linux), QStringLiteral("lx"));
+    EXPECT_EQ(OS2String(zkOS_mac), QStringLiteral("mac"));
+    EXPECT_EQ(OS2String(zkOS_unknown), QString());
+    EXPECT_EQ(OS2String(static_cast<_zkOS>(200)), QString());
+}
+
+TEST(ZkEnvironment, ListKeepsOrderAndSplitsAtFirstEquals)
+{
+    // setenv appends new names at the end of environ, in call order.
+    ASSERT_EQ(setenv("ZK_ENV_TEST_FIRST", "a=b=c", 1), 0);
+    ASSERT_EQ(setenv("ZK_ENV_TEST_SECOND", "", 1), 0);
+    const _varValList list = zkGetEnvironmentVariableList(false);
+    int first = -1;
+    int second = -1;
+    for (int i = 0; i < list.size(); ++i) {
+        EXPECT_FALSE(list.at(i).name.contains(u'=')) << qPrintable(list.at(i).name);
+        if (list.at(i).name == QLatin1String("ZK_ENV_TEST_FIRST"))
+            first = i;
+        if (list.at(i).name == QLatin1String("ZK_ENV_TEST_SECOND"))
+            second = i;
+    }
+    ASSERT_GE(first, 0);
+    ASSERT_GE(second, 0);
+    EXPECT_LT(first, second);
+    EXPECT_EQ(list.at(first).value, QStringLiteral("a=b=c"));
+    EXPECT_TRUE(list.at(second).value.isEmpty());
+    unsetenv("ZK_ENV_TEST_FIRST");
+    unsetenv("ZK_ENV_TEST_SECOND");
+}
+
+TEST(VarValList, KeepsDuplicatesInInsertionOrder)
+{
+    _varValList list;
+    list.add(QStringLiteral("A"), QStringLiteral("1"));
+    list.add(QStringLiteral("B"), QStringLiteral("2"));
+    list.add(QStringLiteral("A"), QStringLiteral("3"));
+    ASSERT_EQ(list.size(), 3);
+    EXPECT_EQ(list.at(2).value, QStringLiteral("3"));
+    EXPECT_EQ(list.value(QStringLiteral("A")), QStringLiteral("1"));
+    EXPECT_TRUE(list.value(QStringLiteral("a")).isEmpty()); // names are exact
+    EXPECT_FALSE(list.contains(QStringLiteral("C")));
+}
+
+} // namespace
