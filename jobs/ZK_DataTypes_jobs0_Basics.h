@@ -287,6 +287,14 @@ struct ZK_JOBS_EXPORT _JobBasics_largePath : _JobBasics_noSettings_largePath, _J
 
 #pragma pack(pop)
 
+/// Splits an image path into directory, file name, frame padding and
+/// extension; explicitly instantiated for (500, 250), (500, 500) and (1000, 1000).
+template <int DirCap, int FileCap>
+ZK_JOBS_EXPORT void template_splitImageFileInto_DirFileExt(const bool& printfStyle,
+    _zkString<FileCap>& fileName, _zkString<DirCap>& dir, _zkString<25>& extension,
+    bool& singleFile, unsigned char& padding, _zkString<DirCap> databaseDir,
+    _zkString<DirCap> sceneName);
+
 /// The host's array of large-path job records (2032 bytes).
 struct ZK_JOBS_EXPORT _JobBasicsArray
 {
