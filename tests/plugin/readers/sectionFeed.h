@@ -3,29 +3,24 @@
 
 #include "plugin/lineSource.h"
 #include "plugin/parserState.h"
+#include "support/textLines.h"
 
-#include <QBuffer>
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
-#include <QTextStream>
 
 #include <gtest/gtest.h>
 
 #include <initializer_list>
+#include <ostream>
 
-/// The lines of a section body, joined with "\n", read from a text-mode QBuffer.
+/// The lines of a section body, joined with "\n", behind a LineSource.
 class SectionFeed
 {
 public:
     explicit SectionFeed(const QStringList& lines)
-        : bytes(lines.join(u'\n').toUtf8())
-        , buffer(&bytes)
-        , stream(&buffer)
-        , source(stream)
-    {
-        buffer.open(QIODevice::ReadOnly | QIODevice::Text);
-    }
+        : text(lines.join(u'\n').toUtf8())
+        , source(text.source)
+    { }
 
     /// The line after the ones the reader consumed, or "<end>" at the end of input.
     QString nextUnread()
@@ -34,10 +29,11 @@ public:
         return source.next(line) ? line : QStringLiteral("<end>");
     }
 
-    QByteArray bytes;
-    QBuffer buffer;
-    QTextStream stream;
-    LineSource source;
+private:
+    zkTest::TextLines text;
+
+public:
+    LineSource& source;
 };
 
 /// Every test starts from the state of a fresh load.
@@ -47,6 +43,12 @@ protected:
     void SetUp() override { resetParserState(); }
     void TearDown() override { resetParserState(); }
 };
+
+/// Readable failure messages for QString comparisons.
+static inline void PrintTo(const QString& text, std::ostream* os)
+{
+    *os << '"' << text.toStdString() << '"';
+}
 
 /// Table rows hold scene text as UTF-8 literals.
 static inline QString qs(const char* text)
