@@ -61,7 +61,8 @@ QString nodeName(const QString& nodePath)
 }
 
 /// The archive file becomes the image output of every Houdini job of the
-/// entry's first registered driver. 7 when the array holds a gap.
+/// entry's first registered driver, expanded and split again. 7 when the
+/// array yields no record for an index below its count.
 int rewriteDriverJobs(zkP::_dataPARS_LoadSceneFile* data, const _USD_RendersettingNode& entry)
 {
     if (entry.renderNodes.isEmpty() || !data || !data->jobs || data->jobs->count <= 0)
@@ -87,6 +88,7 @@ int rewriteDriverJobs(zkP::_dataPARS_LoadSceneFile* data, const _USD_Rendersetti
         job->imageFileName.replace(_zkString<1000>("${OS}"), name);
         job->imageFileName.set(
             replaceHoudiniVariables(job->imageFileName.toQString(), job, hVariables, sceneFile));
+        job->splitImageFileInto_DirFileExt(true);
     }
     return LoadOk;
 }
