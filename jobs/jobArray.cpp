@@ -69,7 +69,8 @@ bool _JobBasicsArray::getNewJob(_JobBasics_largePath*& job)
 {
     ++count;
     setArraySize(count);
-    if (count > allocated) {
+    // A count the host left negative would hand out a record before the block.
+    if (count < 1 || count > allocated) {
         job = nullptr;
         return false;
     }

@@ -78,12 +78,16 @@ void copyString8(_zkString8_allSize<N>& to, const _zkString8_allSize<N>& from)
 }
 
 /// Copies a large-path text into a smaller field: the source length is taken
-/// up to its first zero unit, not from its length field.
+/// up to its first zero unit, not from its length field. The count is that of
+/// zkCharLen, but it stops at the field's end: a record whose text lost its
+/// terminator must not make the scan run on into the next record.
 template <int To, int From>
 void copyCut(_zkString<To>& to, const _zkString<From>& from)
 {
-    const int n = zkCharLen(from.data);
-    to.setUnits(from.data, n < From ? n : From);
+    int n = 0;
+    while (n < From && from.data[n] != 0)
+        ++n;
+    to.setUnits(from.data, n);
 }
 
 } // namespace
@@ -153,8 +157,9 @@ void _JobBasics_noSettings_noPaths::setStructureIDs()
 void _JobBasics_noSettings_noPaths::setCommandPassword(const _zkString8_allSize<40>& password)
 {
     commandPassword.clear();
-    commandPassword
-        = zkCRC_SHA1_16B(reinterpret_cast<const unsigned char*>(password.data), password.length);
+    // A length beyond the capacity comes from a damaged record; never hash past it.
+    const unsigned int n = password.length < 40 ? password.length : 40;
+    commandPassword = zkCRC_SHA1_16B(reinterpret_cast<const unsigned char*>(password.data), n);
 }
 
 bool _JobBasics_noSettings_noPaths::isRightCommandPW(const _passHash& hash) const
