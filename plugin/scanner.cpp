@@ -9,50 +9,86 @@ constexpr int MaxEnvironmentValueLength = 200;
 
 /// Renderer markers of a section header under obj/, img/ or stage/, in the
 /// order they are tried.
-const QLatin1String RendererMarkers[] = {
-    QLatin1String("/mantra"),
-    QLatin1String("/arnold"),
-    QLatin1String("/Redshift_"),
-    QLatin1String("/rs_"),
-    QLatin1String("/opengl"),
-    QLatin1String("/geometry"),
-    QLatin1String("/geo"),
-    QLatin1String("_geo_"),
-    QLatin1String("/comp"),
-    QLatin1String("/rop_comp"),
-    QLatin1String("/alembic"),
-    QLatin1String("/vray"),
-    QLatin1String("/usd_rop"),
-    QLatin1String("/usdrender_"),
-    QLatin1String("/ris"),
-    QLatin1String("/filecache"),
-    QLatin1String("/hdprman"),
-    QLatin1String("/karma"),
-    QLatin1String("/rendersettings"),
+const QStringView RendererMarkers[] = {
+    QStringView(u"/mantra"),
+    QStringView(u"/arnold"),
+    QStringView(u"/Redshift_"),
+    QStringView(u"/rs_"),
+    QStringView(u"/opengl"),
+    QStringView(u"/geometry"),
+    QStringView(u"/geo"),
+    QStringView(u"_geo_"),
+    QStringView(u"/comp"),
+    QStringView(u"/rop_comp"),
+    QStringView(u"/alembic"),
+    QStringView(u"/vray"),
+    QStringView(u"/usd_rop"),
+    QStringView(u"/usdrender_"),
+    QStringView(u"/ris"),
+    QStringView(u"/filecache"),
+    QStringView(u"/hdprman"),
+    QStringView(u"/karma"),
+    QStringView(u"/rendersettings"),
 };
 
-bool containsExact(QStringView line, QLatin1String text)
+/// First position of \p needle in \p line, or -1. Qt sets up a substring
+/// search on every call, which costs more than the search itself on short
+/// lines; instead this looks for one character of the needle that has no other
+/// case form (any character when matching exactly) and lets Qt compare only
+/// there, so the answer is that of QStringView::indexOf.
+qsizetype indexOfText(QStringView line, QStringView needle, Qt::CaseSensitivity cs)
 {
-    return line.contains(text, Qt::CaseSensitive);
+    qsizetype anchor = 0;
+    if (cs == Qt::CaseInsensitive) {
+        while (anchor < needle.size() && needle[anchor].isLetter())
+            ++anchor;
+        if (anchor == needle.size())
+            return line.indexOf(needle, 0, cs);
+    }
+    const QChar key = needle[anchor];
+    for (qsizetype at = line.indexOf(key, anchor); at >= 0; at = line.indexOf(key, at + 1)) {
+        const qsizetype start = at - anchor;
+        if (start + needle.size() > line.size())
+            return -1;
+        if (line.mid(start, needle.size()).compare(needle, cs) == 0)
+            return start;
+    }
+    return -1;
 }
 
-bool containsAnyCase(QStringView line, QLatin1String text)
+bool containsExact(QStringView line, QStringView text)
 {
-    return line.contains(text, Qt::CaseInsensitive);
+    return indexOfText(line, text, Qt::CaseSensitive) >= 0;
+}
+
+bool containsAnyCase(QStringView line, QStringView text)
+{
+    return indexOfText(line, text, Qt::CaseInsensitive) >= 0;
+}
+
+/// ".parm" anywhere in \p line; many lines end in "{", few hold a '.'
+/// followed by "parm", and a character search is far cheaper than a
+/// substring search set up per line.
+bool containsParm(QStringView line)
+{
+    for (qsizetype dot = line.indexOf(u'.'); dot >= 0; dot = line.indexOf(u'.', dot + 1)) {
+        if (line.mid(dot + 1, 4) == u"parm")
+            return true;
+    }
+    return false;
 }
 
 bool hasRendererMarker(QStringView line)
 {
-    for (QLatin1String marker : RendererMarkers) {
+    for (QStringView marker : RendererMarkers) {
         if (!containsAnyCase(line, marker))
             continue;
         // An Alembic archive only loads geometry; a Karma render-properties
         // node only describes settings. Neither renders by itself.
-        if (marker == QLatin1String("/alembic")
-            && containsAnyCase(line, QLatin1String("/alembicarchive")))
+        if (marker == QStringView(u"/alembic")
+            && containsAnyCase(line, QStringView(u"/alembicarchive")))
             continue;
-        if (marker == QLatin1String("/karma")
-            && containsAnyCase(line, QLatin1String("renderproper")))
+        if (marker == QStringView(u"/karma") && containsAnyCase(line, QStringView(u"renderproper")))
             continue;
         return true;
     }
@@ -68,7 +104,7 @@ bool hasRendererMarker(QStringView line)
 /// Position of "_HIP_SAVEVERSION" in any case, or -1.
 qsizetype findSaveVersion(QStringView line)
 {
-    static const QLatin1String key("_HIP_SAVEVERSION");
+    constexpr QStringView key(u"_HIP_SAVEVERSION");
     for (qsizetype at = line.indexOf(u'_'); at >= 0; at = line.indexOf(u'_', at + 1)) {
         if (line.size() - at < key.size())
             return -1;
@@ -81,7 +117,7 @@ qsizetype findSaveVersion(QStringView line)
 /// Position of "set -g " in any case, or -1.
 qsizetype findSetGlobal(QStringView line)
 {
-    static const QLatin1String key("set -g ");
+    constexpr QStringView key(u"set -g ");
     constexpr qsizetype DashOffset = 4;
     for (qsizetype dash = line.indexOf(u'-', DashOffset); dash >= 0;
          dash = line.indexOf(u'-', dash + 1)) {
@@ -154,7 +190,7 @@ void readSaveVersion(QStringView line, ScanResult& scan)
 
 void readGlobalVariable(QStringView line, qsizetype setAt)
 {
-    const qsizetype assign = line.indexOf(QLatin1String(" = "));
+    const qsizetype assign = indexOfText(line, QStringView(u" = "), Qt::CaseSensitive);
     const qsizetype nameAt = setAt + 7;
     // QString::mid semantics: a negative length reads to the end.
     const QString name = line.toString().mid(nameAt, assign - nameAt).trimmed();
@@ -179,7 +215,7 @@ void takeEnvironment()
     const _varValList environment = zkGetEnvironmentVariableList(false);
     for (const _varValue& variable : environment.items) {
         if (variable.value.size() <= MaxEnvironmentValueLength
-            && variable.name.startsWith(QLatin1String("HIP"), Qt::CaseInsensitive))
+            && variable.name.startsWith(QStringView(u"HIP"), Qt::CaseInsensitive))
             hVariables.append({ variable.name, variable.value });
     }
 }
@@ -213,29 +249,29 @@ int readSection(SectionKind kind, const SectionReaders& readers, const LoadConte
 
 SectionKind sectionKind(QStringView line)
 {
-    if (!line.endsWith(u'{') || !containsExact(line, QLatin1String(".parm")))
+    if (!line.endsWith(u'{') || !containsParm(line))
         return SectionKind::None;
 
-    const bool underOut = containsExact(line, QLatin1String("out/"));
-    const bool underObj = containsExact(line, QLatin1String("obj/"));
-    if (containsExact(line, QLatin1String("wedge"))
-        && (underOut || (underObj && containsExact(line, QLatin1String("/wedge")))))
+    const bool underOut = containsExact(line, QStringView(u"out/"));
+    const bool underObj = containsExact(line, QStringView(u"obj/"));
+    if (containsExact(line, QStringView(u"wedge"))
+        && (underOut || (underObj && containsExact(line, QStringView(u"/wedge")))))
         return SectionKind::Wedge;
-    if ((containsExact(line, QLatin1String("/cam"))
-            || containsExact(line, QLatin1String("stereocam")))
+    if ((containsExact(line, QStringView(u"/cam"))
+            || containsExact(line, QStringView(u"stereocam")))
         && (underOut || underObj))
         return SectionKind::Camera;
 
     const bool renderNode = underOut
-        || ((containsAnyCase(line, QLatin1String("obj/"))
-                || containsAnyCase(line, QLatin1String("img/"))
-                || containsAnyCase(line, QLatin1String("stage/")))
+        || ((containsAnyCase(line, QStringView(u"obj/"))
+                || containsAnyCase(line, QStringView(u"img/"))
+                || containsAnyCase(line, QStringView(u"stage/")))
             && hasRendererMarker(line));
     if (!renderNode)
         return SectionKind::None;
-    if (containsExact(line, QLatin1String("/rendersettings")))
+    if (containsExact(line, QStringView(u"/rendersettings")))
         return SectionKind::UsdRenderSettings;
-    if (containsExact(line, QLatin1String("/hdprman")))
+    if (containsExact(line, QStringView(u"/hdprman")))
         return SectionKind::Lop;
     return SectionKind::OutNode;
 }
@@ -257,7 +293,7 @@ ScanResult scanScene(const LoadContext& ctx, LineSource& in, const SectionReader
             continue;
 
         if ((line.front().unicode() | 0x20) == u'f'
-            && line.startsWith(QLatin1String("frange"), Qt::CaseInsensitive))
+            && line.startsWith(QStringView(u"frange"), Qt::CaseInsensitive))
             readFrameRange(line);
 
         if (findSaveVersion(line) >= 0) {
@@ -265,15 +301,15 @@ ScanResult scanScene(const LoadContext& ctx, LineSource& in, const SectionReader
             continue;
         }
 
-        if (mayStartVariableLine(line.front()) && containsExact(line, QLatin1String(" = "))) {
+        if (mayStartVariableLine(line.front()) && containsExact(line, QStringView(u" = "))) {
             const qsizetype setAt = findSetGlobal(line);
             if (setAt >= 0
-                && (line.startsWith(QLatin1String("set -g "), Qt::CaseInsensitive)
-                    || line.startsWith(QLatin1String("Hou"), Qt::CaseInsensitive)))
+                && (line.startsWith(QStringView(u"set -g "), Qt::CaseInsensitive)
+                    || line.startsWith(QStringView(u"Hou"), Qt::CaseInsensitive)))
                 readGlobalVariable(line, setAt);
         }
 
-        if (line.startsWith(QLatin1String("take name"))) {
+        if (line.startsWith(QStringView(u"take name"))) {
             readTake(line, scan);
             continue;
         }
