@@ -100,14 +100,27 @@ TEST(Hipjobs, JsonHasTheDocumentedKeys)
     ASSERT_TRUE(root.value(QStringLiteral("jobs")).isArray());
 
     const QJsonArray jobs = root.value(QStringLiteral("jobs")).toArray();
-    const char* jobKeys[] = { "index", "structureID", "renderApp", "camera", "layer", "ID", "preID",
-        "waitForPreIDs", "padding", "sceneName", "imageDir", "imageFileName", "imageExtension",
-        "channels", "seqStart", "seqEnd", "seqStep", "customData" };
+    const char* jobKeys[] = { "index", "id", "idFull", "sceneDisplayName", "structureID",
+        "renderApp", "camera", "layer", "ID", "preID", "waitForPreIDs", "padding", "sceneName",
+        "imageDir", "imageFileName", "imageExtension", "channels", "seqStart", "seqEnd", "seqStep",
+        "customData" };
     for (const QJsonValue& job : jobs) {
         for (const char* key : jobKeys)
             EXPECT_TRUE(job.toObject().contains(QLatin1String(key))) << key;
         EXPECT_EQ(job.toObject().value(QStringLiteral("structureID")).toInt(), 1033);
     }
+}
+
+TEST(Hipjobs, VarsIsAccepted)
+{
+    const ToolRun text = hipjobs({ QStringLiteral("--vars"), exampleScene() });
+    EXPECT_EQ(text.status, 0) << qPrintable(text.err);
+    const ToolRun json
+        = hipjobs({ QStringLiteral("--vars"), QStringLiteral("--json"), exampleScene() });
+    EXPECT_EQ(json.status, 0) << qPrintable(json.err);
+    for (const QJsonValue& job :
+        QJsonDocument::fromJson(json.out).object().value(QStringLiteral("jobs")).toArray())
+        EXPECT_FALSE(job.toObject().value(QStringLiteral("vars")).toArray().isEmpty());
 }
 
 TEST(Hipjobs, MissingSceneStillPrintsJson)

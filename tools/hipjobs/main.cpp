@@ -5,7 +5,9 @@
 // The job array is built here from its documented binary layout, not with the
 // plugin's constructor: the tool must see exactly what a host sees, and a
 // layout drift between the two sides shows up as a failed load, not as a
-// quietly consistent pair.
+// quietly consistent pair. The job methods the host may call on records
+// (conversion, identifiers, display name, job variables) come from the plugin
+// library the tool is linked with; the entry points always through dlsym.
 #include "jobs/ZK_DataTypes_jobs0_Basics.h"
 #include "plugin/zkPluginRecords.h"
 
@@ -323,10 +325,34 @@ QJsonObject renderAppJson(const zkRA::_RenderAppBasic& a)
     };
 }
 
-QJsonObject jobJson(const zkJ::_JobBasics_largePath& job, int index)
+/// The job in the compact form, through the plugin's exported conversion:
+/// identifiers, display name and job variables are methods of that form.
+std::unique_ptr<zkJ::_JobBasics> compactJob(const zkJ::_JobBasics_largePath& job)
+{
+    auto compact = std::make_unique<zkJ::_JobBasics>();
+    job.toJobsBasic(*compact);
+    return compact;
+}
+
+QJsonArray varsJson(const _varValList& vars)
+{
+    QJsonArray out;
+    for (const _varValue& v : vars.items)
+        out.append(QJsonObject {
+            { QStringLiteral("name"), v.name }, { QStringLiteral("value"), v.value } });
+    return out;
+}
+
+QJsonObject jobJson(const zkJ::_JobBasics_largePath& job, int index, bool withVars)
 {
     QJsonObject o;
     o[QStringLiteral("index")] = index;
+    const std::unique_ptr<zkJ::_JobBasics> compact = compactJob(job);
+    o[QStringLiteral("id")] = compact->IDstr();
+    o[QStringLiteral("idFull")] = compact->IDstrFull();
+    o[QStringLiteral("sceneDisplayName")] = compact->getSceneDisplayName();
+    if (withVars)
+        o[QStringLiteral("vars")] = varsJson(compact->exportJobVarList_Basic(false));
     o[QStringLiteral("structureID")] = job.structureID;
     o[QStringLiteral("structureVersion")] = job.structureVersion;
     o[QStringLiteral("initMarker")] = job.initMarker;
@@ -413,11 +439,11 @@ QJsonObject jobJson(const zkJ::_JobBasics_largePath& job, int index)
     return o;
 }
 
-void printJson(const HostJobArray& jobs, int result, const QString& scene)
+void printJson(const HostJobArray& jobs, int result, const QString& scene, bool withVars)
 {
     QJsonArray list;
     for (int i = 0; i < jobs.readableCount(); ++i)
-        list.append(jobJson(jobs.array->records[i], i));
+        list.append(jobJson(jobs.array->records[i], i, withVars));
     const QJsonObject root {
         { QStringLiteral("scene"), scene },
         { QStringLiteral("result"), result },
@@ -426,6 +452,19 @@ void printJson(const HostJobArray& jobs, int result, const QString& scene)
         { QStringLiteral("jobs"), list },
     };
     printOut(QJsonDocument(root).toJson(QJsonDocument::Indented));
+}
+
+void printVars(const HostJobArray& jobs)
+{
+    QString out;
+    for (int i = 0; i < jobs.readableCount(); ++i) {
+        const std::unique_ptr<zkJ::_JobBasics> compact = compactJob(jobs.array->records[i]);
+        out += QStringLiteral("job %1 %2\n").arg(i).arg(compact->IDstr());
+        const _varValList vars = compact->exportJobVarList_Basic(false);
+        for (const _varValue& v : vars.items)
+            out += QStringLiteral("  %1 = %2\n").arg(v.name, v.value);
+    }
+    printOut(out.toUtf8());
 }
 
 int showInfo(const Plugin& plugin, bool json)
@@ -500,7 +539,11 @@ int main(int argc, char* argv[])
         QStringLiteral("The plugin library to load (default: ../lib/%1 beside this program).")
             .arg(QLatin1String(PluginFileName)),
         QStringLiteral("path"));
+    const QCommandLineOption varsOption(QStringLiteral("vars"),
+        QStringLiteral("Print each job's exported job variables, one name and value per line "
+                       "(with --json: a \"vars\" array in each job)."));
     parser.addOption(jsonOption);
+    parser.addOption(varsOption);
     parser.addOption(infoOption);
     parser.addOption(pluginOption);
     parser.addPositionalArgument(QStringLiteral("scene"), QStringLiteral("The scene file to load."),
@@ -571,8 +614,11 @@ int main(int argc, char* argv[])
     load.settings = settings.block.get();
 
     const int result = plugin.load(&load);
+    const bool vars = parser.isSet(varsOption);
     if (json)
-        printJson(jobs, result, absoluteScene);
+        printJson(jobs, result, absoluteScene, vars);
+    else if (vars)
+        printVars(jobs);
     else
         printTable(jobs, result, absoluteScene);
     if (result != 1)
