@@ -3,24 +3,31 @@
 
 namespace zkJ {
 
+// ID stands at a 4-byte boundary inside the packed record: it is read into a
+// local before a reference to it is formed.
+
 QString _JobBasics::IDstr() const
 {
-    return zkJ::ID2str(ID);
+    const unsigned long long id = ID;
+    return zkJ::ID2str(id);
 }
 
 QString _JobBasics::ID2str() const
 {
-    return zkJ::ID2str(ID);
+    const unsigned long long id = ID;
+    return zkJ::ID2str(id);
 }
 
 QString _JobBasics::IDstrFull() const
 {
-    return zkJ::ID2strFull(ID);
+    const unsigned long long id = ID;
+    return zkJ::ID2strFull(id);
 }
 
 QString _JobBasics::ID2strFull() const
 {
-    return zkJ::ID2strFull(ID);
+    const unsigned long long id = ID;
+    return zkJ::ID2strFull(id);
 }
 
 unsigned long long _JobBasics::IDmain() const

@@ -67,9 +67,9 @@ TEST(JobIdentifiers, ShortPackingMatchesFullIdentifier)
     }
     _IDShort s;
     s.fromInt32(0xAB12345Cu);
-    EXPECT_EQ(s.preNumber, 0x5C);
-    EXPECT_EQ(s.mainLow, 0x1234);
-    EXPECT_EQ(s.mainHigh, 0xAB);
+    EXPECT_EQ(int(s.preNumber), 0x5C);
+    EXPECT_EQ(int(s.mainLow), 0x1234);
+    EXPECT_EQ(int(s.mainHigh), 0xAB);
 }
 
 TEST(JobIdentifiers, JobAccessors)

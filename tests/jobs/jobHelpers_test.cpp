@@ -70,10 +70,10 @@ TEST(SceneDisplayName, ShortensPaths)
 TEST(AuthString, DependsOnSceneAndID)
 {
     auto job = std::make_unique<_JobBasics>();
-    job->ID = 0x0012345678ABCDEFULL;
+    const unsigned long long id = 0x0012345678ABCDEFULL;
+    job->ID = id;
     // The checksum of no bytes is 0, so the identifier shows through unchanged.
-    EXPECT_EQ(
-        job->authStr(), QStringLiteral("auth") + ID2strFull(job->ID) + QStringLiteral("auth"));
+    EXPECT_EQ(job->authStr(), QStringLiteral("auth") + ID2strFull(id) + QStringLiteral("auth"));
 
     job->sceneName.set(QStringLiteral("/proj/a.hip"));
     const QString a = job->authStr();
