@@ -167,7 +167,8 @@ TEST(JobArray, ClearReusesRecordsAndReinitialisesThem)
     EXPECT_TRUE(job->channels[5].fileName.isEmpty());
     EXPECT_EQ(job->customDataCount, 0);
     EXPECT_EQ(job->customData[0], 0);
-    EXPECT_EQ(job->ID, 0u);
+    const unsigned long long id = job->ID; // packed: no reference to the field itself
+    EXPECT_EQ(id, 0u);
     EXPECT_EQ(jobs.count, 1);
 }
 
