@@ -22,23 +22,6 @@ constexpr const char* PluginVersion = "1.0";
 constexpr const char* FileFilter = "*.hip;*.hipnc;*.hiplc;";
 constexpr int QtVersionCapacity = 25;
 
-QStringList submitterArguments(const zkP::_submitterSettings* settings)
-{
-    QStringList args;
-    if (!settings || !settings->argv)
-        return args;
-    for (int i = 1; i < settings->argc; ++i) {
-        const char* arg = settings->argv[i];
-        args.append(arg ? QString::fromLocal8Bit(arg) : QString());
-    }
-    return args;
-}
-
-bool isArgument(const QString& arg, const char* word)
-{
-    return arg.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
-}
-
 int loadScene(zkP::_dataPARS_LoadSceneFile& data)
 {
     if (!data.jobs || !data.jobs->isVersionSupported(1))
@@ -46,13 +29,7 @@ int loadScene(zkP::_dataPARS_LoadSceneFile& data)
 
     LoadContext ctx;
     ctx.data = &data;
-    ctx.arguments = submitterArguments(data.settings);
-    for (const QString& arg : qAsConst(ctx.arguments)) {
-        if (isArgument(arg, "-houdiniBuildVersion"))
-            ctx.buildVersionSwitch = true;
-        else if (isArgument(arg, "-houdiniCompressedIFD"))
-            ctx.compressedExportSwitch = true;
-    }
+    readSubmitterArguments(ctx, data.settings);
 
     if (!data.sceneFile)
         return LoadCannotOpen;

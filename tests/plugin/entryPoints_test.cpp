@@ -258,25 +258,4 @@ TEST_F(EntryPoints, SameSceneTwiceGivesIdenticalJobs)
     EXPECT_EQ(first.array->arrayText.toQString(), second.array->arrayText.toQString());
 }
 
-TEST_F(EntryPoints, ArgumentWordsIgnoreLetterCase)
-{
-    // The build-version switch shows in the jobs' minor version; the
-    // compressed-export switch in their renderer names and extensions.
-    const auto jobsWith = [](const QStringList& args) {
-        HostLoad host(exampleScene(), args);
-        EXPECT_EQ(load(&host.record), 1);
-        return host.jobBytes();
-    };
-    const QByteArray plain = jobsWith({});
-    if (plain.isEmpty())
-        GTEST_SKIP() << "the example scene yields no jobs yet";
-    for (const char* word : { "-houdiniBuildVersion", "-houdiniCompressedIFD" }) {
-        const QString exact = QLatin1String(word);
-        const QByteArray reference = jobsWith({ exact });
-        EXPECT_EQ(jobsWith({ exact.toUpper() }), reference) << word;
-        EXPECT_EQ(jobsWith({ exact.toLower() }), reference) << word;
-    }
-    EXPECT_NE(jobsWith({ QStringLiteral("-HOUDINIBUILDVERSION") }), plain);
-}
-
 } // namespace
