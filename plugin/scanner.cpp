@@ -3,68 +3,36 @@
 #include "plugin/parserState.h"
 #include "shared/zkShared.h"
 
+#include <cstring>
+#include <string_view>
+
 namespace {
 
 constexpr int MaxEnvironmentValueLength = 200;
 
 /// Renderer markers of a section header under obj/, img/ or stage/, in the
 /// order they are tried.
-const QStringView RendererMarkers[] = {
-    QStringView(u"/mantra"),
-    QStringView(u"/arnold"),
-    QStringView(u"/Redshift_"),
-    QStringView(u"/rs_"),
-    QStringView(u"/opengl"),
-    QStringView(u"/geometry"),
-    QStringView(u"/geo"),
-    QStringView(u"_geo_"),
-    QStringView(u"/comp"),
-    QStringView(u"/rop_comp"),
-    QStringView(u"/alembic"),
-    QStringView(u"/vray"),
-    QStringView(u"/usd_rop"),
-    QStringView(u"/usdrender_"),
-    QStringView(u"/ris"),
-    QStringView(u"/filecache"),
-    QStringView(u"/hdprman"),
-    QStringView(u"/karma"),
-    QStringView(u"/rendersettings"),
+const char* const RendererMarkers[] = {
+    "/mantra",
+    "/arnold",
+    "/Redshift_",
+    "/rs_",
+    "/opengl",
+    "/geometry",
+    "/geo",
+    "_geo_",
+    "/comp",
+    "/rop_comp",
+    "/alembic",
+    "/vray",
+    "/usd_rop",
+    "/usdrender_",
+    "/ris",
+    "/filecache",
+    "/hdprman",
+    "/karma",
+    "/rendersettings",
 };
-
-/// First position of \p needle in \p line, or -1. Qt sets up a substring
-/// search on every call, which costs more than the search itself on short
-/// lines; instead this looks for one character of the needle that has no other
-/// case form (any character when matching exactly) and lets Qt compare only
-/// there, so the answer is that of QStringView::indexOf.
-qsizetype indexOfText(QStringView line, QStringView needle, Qt::CaseSensitivity cs)
-{
-    qsizetype anchor = 0;
-    if (cs == Qt::CaseInsensitive) {
-        while (anchor < needle.size() && needle[anchor].isLetter())
-            ++anchor;
-        if (anchor == needle.size())
-            return line.indexOf(needle, 0, cs);
-    }
-    const QChar key = needle[anchor];
-    for (qsizetype at = line.indexOf(key, anchor); at >= 0; at = line.indexOf(key, at + 1)) {
-        const qsizetype start = at - anchor;
-        if (start + needle.size() > line.size())
-            return -1;
-        if (line.mid(start, needle.size()).compare(needle, cs) == 0)
-            return start;
-    }
-    return -1;
-}
-
-bool containsExact(QStringView line, QStringView text)
-{
-    return indexOfText(line, text, Qt::CaseSensitive) >= 0;
-}
-
-bool containsAnyCase(QStringView line, QStringView text)
-{
-    return indexOfText(line, text, Qt::CaseInsensitive) >= 0;
-}
 
 /// ".parm" anywhere in \p line; many lines end in "{", few hold a '.'
 /// followed by "parm", and a character search is far cheaper than a
@@ -78,17 +46,67 @@ bool containsParm(QStringView line)
     return false;
 }
 
-bool hasRendererMarker(QStringView line)
+/// A section header prepared for many searches. Headers are nearly always
+/// ASCII, and for ASCII text Qt's case-insensitive comparison is plain ASCII
+/// case folding, so such a header is searched as bytes and a lower-case copy;
+/// any other header goes to Qt's own searches.
+class HeaderText
 {
-    for (QStringView marker : RendererMarkers) {
-        if (!containsAnyCase(line, marker))
+public:
+    explicit HeaderText(QStringView header)
+        : line(header)
+    {
+        ascii = header.size() <= qsizetype(sizeof(bytes));
+        for (qsizetype i = 0; ascii && i < header.size(); ++i) {
+            const char16_t c = header[i].unicode();
+            if (c >= 0x80) {
+                ascii = false;
+                break;
+            }
+            bytes[i] = char(c);
+            lower[i] = char(c >= u'A' && c <= u'Z' ? c - u'A' + u'a' : c);
+        }
+    }
+
+    bool exact(const char* needle) const
+    {
+        if (ascii)
+            return std::string_view(bytes, size_t(line.size())).find(needle)
+                != std::string_view::npos;
+        return line.contains(QLatin1String(needle), Qt::CaseSensitive);
+    }
+
+    bool anyCase(const char* needle) const
+    {
+        if (!ascii)
+            return line.contains(QLatin1String(needle), Qt::CaseInsensitive);
+        char folded[32];
+        size_t n = 0;
+        for (; needle[n] && n < sizeof(folded); ++n) {
+            const char c = needle[n];
+            folded[n] = c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c;
+        }
+        return std::string_view(lower, size_t(line.size())).find(std::string_view(folded, n))
+            != std::string_view::npos;
+    }
+
+private:
+    QStringView line;
+    bool ascii = false;
+    char bytes[512];
+    char lower[512];
+};
+
+bool hasRendererMarker(const HeaderText& header)
+{
+    for (const char* marker : RendererMarkers) {
+        if (!header.anyCase(marker))
             continue;
         // An Alembic archive only loads geometry; a Karma render-properties
         // node only describes settings. Neither renders by itself.
-        if (marker == QStringView(u"/alembic")
-            && containsAnyCase(line, QStringView(u"/alembicarchive")))
+        if (std::strcmp(marker, "/alembic") == 0 && header.anyCase("/alembicarchive"))
             continue;
-        if (marker == QStringView(u"/karma") && containsAnyCase(line, QStringView(u"renderproper")))
+        if (std::strcmp(marker, "/karma") == 0 && header.anyCase("renderproper"))
             continue;
         return true;
     }
@@ -138,6 +156,75 @@ bool mayStartVariableLine(QChar first)
 {
     const char16_t c = first.unicode();
     return c == u's' || c == u'S' || c == u'h' || c == u'H' || c == u'\u017F';
+}
+
+bool isAsciiSpace(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\v' || c == '\f' || c == '\r';
+}
+
+char asciiLower(char c)
+{
+    return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c;
+}
+
+/// Whether \p key (lower-case ASCII) may stand at \p at of \p raw in any
+/// letter case. A byte above 0x7F may be a character that folds to an ASCII
+/// letter, so it counts as a possible match for the exact test to decide.
+bool mayHoldAnyCase(QByteArrayView raw, qsizetype at, const char* key)
+{
+    for (qsizetype k = 0; key[k]; ++k) {
+        if (at + k >= raw.size())
+            return false;
+        const char c = raw[at + k];
+        if (static_cast<unsigned char>(c) >= 0x80)
+            return true;
+        if (asciiLower(c) != key[k])
+            return false;
+    }
+    return true;
+}
+
+/// Cheap test on a raw line: false only for lines that no rule of the scan
+/// can take, which are nearly all lines of a scene. Every rule's exact test
+/// runs afterwards on the decoded text, so this only has to be generous.
+/// A line whose first or last visible byte is not ASCII may be trimmed
+/// differently once decoded, so it always passes.
+bool mayMatter(QByteArrayView raw, bool hasUnderscore)
+{
+    qsizetype first = 0;
+    qsizetype last = raw.size() - 1;
+    while (first <= last && isAsciiSpace(raw[first]))
+        ++first;
+    if (first > last)
+        return false;
+    while (isAsciiSpace(raw[last]))
+        --last;
+    const char head = raw[first];
+    const char tail = raw[last];
+    if (static_cast<unsigned char>(head) >= 0x80 || static_cast<unsigned char>(tail) >= 0x80)
+        return true;
+    if (head == '#')
+        return false;
+    const QByteArrayView body = raw.sliced(first, last - first + 1);
+    // "frange", "take name" and section headers are known by their ends.
+    if ((head == 'f' || head == 'F') && mayHoldAnyCase(body, 0, "frange"))
+        return true;
+    if (head == 't' && body.startsWith("take name"))
+        return true;
+    if (tail == '{' && body.size() > 6 && body.contains(".parm"))
+        return true;
+    // A variable line starts with "set -g " or "Hou" and holds " = ".
+    if ((mayHoldAnyCase(body, 0, "set -g ") || mayHoldAnyCase(body, 0, "hou"))
+        && body.contains(" = "))
+        return true;
+    if (!hasUnderscore)
+        return false;
+    for (qsizetype at = body.indexOf('_'); at >= 0; at = body.indexOf('_', at + 1)) {
+        if (mayHoldAnyCase(body, at, "_hip_saveversion"))
+            return true;
+    }
+    return false;
 }
 
 void readFrameRange(QStringView line)
@@ -190,7 +277,7 @@ void readSaveVersion(QStringView line, ScanResult& scan)
 
 void readGlobalVariable(QStringView line, qsizetype setAt)
 {
-    const qsizetype assign = indexOfText(line, QStringView(u" = "), Qt::CaseSensitive);
+    const qsizetype assign = line.indexOf(QStringView(u" = "));
     const qsizetype nameAt = setAt + 7;
     // QString::mid semantics: a negative length reads to the end.
     const QString name = line.toString().mid(nameAt, assign - nameAt).trimmed();
@@ -252,26 +339,27 @@ SectionKind sectionKind(QStringView line)
     if (!line.endsWith(u'{') || !containsParm(line))
         return SectionKind::None;
 
-    const bool underOut = containsExact(line, QStringView(u"out/"));
-    const bool underObj = containsExact(line, QStringView(u"obj/"));
-    if (containsExact(line, QStringView(u"wedge"))
-        && (underOut || (underObj && containsExact(line, QStringView(u"/wedge")))))
+    const HeaderText header(line);
+    const bool underOut = header.exact("out/");
+    const bool underObj = header.exact("obj/");
+    // Most members of a scene live in other networks; every rule below needs
+    // one of these four prefixes, so such headers are done here.
+    const bool underRenderNetwork
+        = underObj || header.anyCase("obj/") || header.anyCase("img/") || header.anyCase("stage/");
+    if (!underOut && !underRenderNetwork)
+        return SectionKind::None;
+
+    if (header.exact("wedge") && (underOut || (underObj && header.exact("/wedge"))))
         return SectionKind::Wedge;
-    if ((containsExact(line, QStringView(u"/cam"))
-            || containsExact(line, QStringView(u"stereocam")))
-        && (underOut || underObj))
+    if ((header.exact("/cam") || header.exact("stereocam")) && (underOut || underObj))
         return SectionKind::Camera;
 
-    const bool renderNode = underOut
-        || ((containsAnyCase(line, QStringView(u"obj/"))
-                || containsAnyCase(line, QStringView(u"img/"))
-                || containsAnyCase(line, QStringView(u"stage/")))
-            && hasRendererMarker(line));
+    const bool renderNode = underOut || hasRendererMarker(header);
     if (!renderNode)
         return SectionKind::None;
-    if (containsExact(line, QStringView(u"/rendersettings")))
+    if (header.exact("/rendersettings"))
         return SectionKind::UsdRenderSettings;
-    if (containsExact(line, QStringView(u"/hdprman")))
+    if (header.exact("/hdprman"))
         return SectionKind::Lop;
     return SectionKind::OutNode;
 }
@@ -286,9 +374,15 @@ ScanResult scanScene(const LoadContext& ctx, LineSource& in, const SectionReader
     DatabaseDir = slash < 0 ? ctx.scenePath : ctx.scenePath.left(slash + 1);
     takeEnvironment();
 
-    QStringView line;
+    QByteArrayView raw;
+    bool hasUnderscore = false;
+    QString text;
     QString header;
-    while (in.nextView(line)) {
+    while (in.nextRaw(raw, &hasUnderscore)) {
+        if (!mayMatter(raw, hasUnderscore))
+            continue;
+        text = LineSource::decode(raw);
+        const QStringView line(text);
         if (line.isEmpty() || line.front() == u'#')
             continue;
 
@@ -301,7 +395,7 @@ ScanResult scanScene(const LoadContext& ctx, LineSource& in, const SectionReader
             continue;
         }
 
-        if (mayStartVariableLine(line.front()) && containsExact(line, QStringView(u" = "))) {
+        if (mayStartVariableLine(line.front()) && line.contains(QStringView(u" = "))) {
             const qsizetype setAt = findSetGlobal(line);
             if (setAt >= 0
                 && (line.startsWith(QStringView(u"set -g "), Qt::CaseInsensitive)

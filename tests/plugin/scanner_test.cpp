@@ -65,8 +65,13 @@ TEST(SectionDispatch, HeadersGoToTheirReaders)
         { "{", SectionKind::None },
         { "", SectionKind::None },
     };
-    for (const HeaderCase& c : cases)
-        EXPECT_EQ(sectionKind(QString::fromUtf8(c.line)), c.kind) << c.line;
+    for (const HeaderCase& c : cases) {
+        const QString header = QString::fromUtf8(c.line);
+        EXPECT_EQ(sectionKind(header), c.kind) << c.line;
+        // Headers that are not plain ASCII take Qt's own searches; a leading
+        // character that no rule looks at must not change the answer.
+        EXPECT_EQ(sectionKind(QStringLiteral("\u00e9") + header), c.kind) << "non-ASCII " << c.line;
+    }
 }
 
 // ---- scans with recording readers ------------------------------------------
@@ -464,6 +469,55 @@ TEST(SceneLoad, SecondLoadStartsFromTheInitialState)
     EXPECT_EQ(DatabaseDir, QDir(dir.path()).absolutePath() + u'/');
     EXPECT_EQ(GLseqStart, 5);
     EXPECT_EQ(GLseqEnd, 6);
+}
+
+} // namespace
+
+namespace {
+
+// Lines are ruled out on their raw bytes before they are decoded; these
+// lines only match once decoded (Unicode spaces trimmed, letters that fold to
+// ASCII), so the raw test must let them through.
+TEST_F(Scanner, RawPrefilterKeepsLinesThatMatchOnlyOnceDecoded)
+{
+    calls.clear();
+    const ScanResult result = scan("\xc2\xa0"
+                                   "frange 7 9\xc2\xa0\n"
+                                   "\xc5\xbf"
+                                   "et -g SHOT = 'sh010'\n"
+                                   "set -g _HIP_\xc5\xbf"
+                                   "AVEVERSION = '19.5.303'\n"
+                                   "\xe3\x80\x80take name Alt x\n"
+                                   "obj/cam1.parm {\xc2\xa0\n"
+                                   "}\n");
+    EXPECT_EQ(GLseqStart, 7);
+    EXPECT_EQ(GLseqEnd, 9);
+    ASSERT_EQ(sceneVariables().size(), 1);
+    EXPECT_EQ(sceneVariables().front().name, QStringLiteral("SHOT"));
+    EXPECT_EQ(sceneVariables().front().value, QStringLiteral("sh010"));
+    EXPECT_EQ(result.houdiniMajor, 19);
+    EXPECT_EQ(result.takes, QStringList { QStringLiteral("Alt") });
+    ASSERT_EQ(calls.size(), 1);
+    EXPECT_EQ(calls.front().kind, SectionKind::Camera);
+}
+
+TEST_F(Scanner, LinesNearTheRulesAreNotTaken)
+{
+    calls.clear();
+    const ScanResult result = scan("flags = lock off\n"
+                                   "framerange 3 4\n"
+                                   "t 0 1 2\n"
+                                   "tak name X\n"
+                                   "sopflags sopflags = \n"
+                                   "node_HIP_SAVE 1\n"
+                                   "obj/cam1.init {\n"
+                                   "{\n");
+    EXPECT_EQ(GLseqStart, 1);
+    EXPECT_EQ(GLseqEnd, 100);
+    EXPECT_TRUE(result.takes.isEmpty());
+    EXPECT_TRUE(sceneVariables().isEmpty());
+    EXPECT_EQ(result.houdiniMajor, 10);
+    EXPECT_TRUE(calls.isEmpty());
 }
 
 } // namespace
