@@ -1,5 +1,7 @@
 #include "cameraList.h"
 
+#include "elementSection.h"
+
 namespace {
 
 /// Camera paths with these parts belong to rigs and helpers, not to cameras
@@ -29,11 +31,7 @@ int _camList::findCamIndex(_zkString8_allSize<150> const& name)
 
 int _camList::findCamIndexByRenderNode(QString const& driverPath) const
 {
-    for (int i = 0; i < list.size(); ++i) {
-        if (list.at(i).renderNodes.contains(driverPath, Qt::CaseSensitive))
-            return i;
-    }
-    return -1;
+    return elementSection::findByRenderNode(list, driverPath);
 }
 
 void _camList::addCamFromOutNode(_zkString8_allSize<150> camera, QString const& driverPath)

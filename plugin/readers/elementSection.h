@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QLatin1String>
+#include <QList>
 #include <QString>
 #include <QStringView>
 
@@ -74,6 +75,35 @@ inline QString unwrapChsop(QString text)
     text.remove(0, 9);
     text.chop(1);
     return text;
+}
+
+/// Index of the first node whose nodePath equals \p nodePath ignoring case;
+/// when there is none, a new node with that path is appended (its index
+/// returned) if \p create is set, else -1.
+template <typename Node>
+int findByNodePath(QList<Node>& list, const QString& nodePath, bool create)
+{
+    for (int i = 0; i < list.size(); ++i) {
+        if (list.at(i).nodePath.compare(nodePath, Qt::CaseInsensitive) == 0)
+            return i;
+    }
+    if (!create)
+        return -1;
+    Node node;
+    node.nodePath = nodePath;
+    list.append(node);
+    return int(list.size()) - 1;
+}
+
+/// Index of the first node whose renderNodes hold \p driverPath exactly, or -1.
+template <typename Node>
+int findByRenderNode(const QList<Node>& list, const QString& driverPath)
+{
+    for (int i = 0; i < list.size(); ++i) {
+        if (list.at(i).renderNodes.contains(driverPath, Qt::CaseSensitive))
+            return i;
+    }
+    return -1;
 }
 
 } // namespace elementSection

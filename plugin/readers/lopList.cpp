@@ -48,25 +48,12 @@ QString _LOPNode::rendererName_create() const
 
 int _LOPList::findLOPIndex(QString const& nodePath, bool const& create)
 {
-    for (int i = 0; i < list.size(); ++i) {
-        if (list.at(i).nodePath.compare(nodePath, Qt::CaseInsensitive) == 0)
-            return i;
-    }
-    if (!create)
-        return -1;
-    _LOPNode node;
-    node.nodePath = nodePath;
-    list.append(node);
-    return int(list.size()) - 1;
+    return elementSection::findByNodePath(list, nodePath, create);
 }
 
 int _LOPList::findLOPIndexByRenderNode(QString const& driverPath) const
 {
-    for (int i = 0; i < list.size(); ++i) {
-        if (list.at(i).renderNodes.contains(driverPath, Qt::CaseSensitive))
-            return i;
-    }
-    return -1;
+    return elementSection::findByRenderNode(list, driverPath);
 }
 
 int _LOPList::addLOPFromOutNode(QString lopPath, QString const& driverPath)

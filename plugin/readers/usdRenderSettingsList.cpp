@@ -12,25 +12,12 @@ void _USD_RendersettingNode::clear()
 
 int _USD_RSList::findIndex(QString const& nodePath, bool const& create)
 {
-    for (int i = 0; i < list.size(); ++i) {
-        if (list.at(i).nodePath.compare(nodePath, Qt::CaseInsensitive) == 0)
-            return i;
-    }
-    if (!create)
-        return -1;
-    _USD_RendersettingNode node;
-    node.nodePath = nodePath;
-    list.append(node);
-    return int(list.size()) - 1;
+    return elementSection::findByNodePath(list, nodePath, create);
 }
 
 int _USD_RSList::findIndexByROP(QString const& driverPath) const
 {
-    for (int i = 0; i < list.size(); ++i) {
-        if (list.at(i).renderNodes.contains(driverPath, Qt::CaseSensitive))
-            return i;
-    }
-    return -1;
+    return elementSection::findByRenderNode(list, driverPath);
 }
 
 int _USD_RSList::addFromROP(QString name, QString const& driverPath)
