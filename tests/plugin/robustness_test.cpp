@@ -1,0 +1,125 @@
+// Hostile input: every prefix of a valid scene and many damaged copies of it
+// must scan to the end with a result code, never a crash or a hang. Run under
+// the sanitizers, this also catches reads past a buffer.
+#include "plugin/parserState.h"
+#include "plugin/scanner.h"
+#include "support/textLines.h"
+
+#include <QByteArray>
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace {
+
+const QByteArray ValidScene
+    = "frange 1 48\n"
+      "set -g JOB = '/projects/demo'\n"
+      "set -g _HIP_SAVEVERSION = '19.5.303'\n"
+      "take name Main kids 1\r\n"
+      "take name alt kids 0\n"
+      "obj/cam1.parm {\n"
+      "res\t[ 0\tlocks=0 ]\t(\t1920\t1080\t)\n"
+      "}\n"
+      "obj/stereocam_rig.parm {\n"
+      "res\t[ 0\tlocks=0 ]\t(\t640\t)\n"
+      "}\n"
+      "out/wedge1.parm {\n"
+      "driver\t[ 0\tlocks=0 ]\t(\t../mantra1\t)\n"
+      "wedgemethod\t[ 0\tlocks=0 ]\t(\tchannel\t)\n"
+      "prefix\t[ 0\tlocks=0 ]\t(\twedge\t)\n"
+      "name1\t[ 0\tlocks=0 ]\t(\tscale\t)\n"
+      "range1\t[ 0\tlocks=0 ]\t(\t0,5\t1,5\t)\n"
+      "steps1\t[ 0\tlocks=0 ]\t(\t3\t)\n"
+      "}\n"
+      "stage/hdprman1.parm {\n"
+      "picture\t[ 0\tlocks=0 ]\t(\t\"$HIP/r/$F4.exr\"\t)\n"
+      "}\n"
+      "stage/rendersettings1.parm {\n"
+      "camera\t[ 0\tlocks=0 ]\t(\t/cams/shot\t)\n"
+      "xn__redshiftglobalRS_archive_enable\t[ 0\tlocks=0 ]\t(\t\"on\"\t)\n"
+      "xn__redshiftglobalRS_archive_fileName\t[ 0\tlocks=0 ]\t(\t\"$HIP/a.$F.rs\"\t)\n"
+      "}\n"
+      "out/mantra1.parm {\n"
+      "vm_picture\t[ 0\tlocks=0 ]\t(\t\"$HIP/render/\xc3\xa9.$F4.exr\"\t)\n"
+      "}\n";
+
+class HostileScene : public ::testing::Test
+{
+protected:
+    int scan(const QByteArray& text)
+    {
+        resetParserState();
+        // A registered driver with a job makes the render-settings reader
+        // rewrite that job, so damaged archive paths reach the split too.
+        USD_RSList.addFromROP(
+            QStringLiteral("/stage/rendersettings1"), QStringLiteral("/out/mantra1"));
+        jobs.clear();
+        zkJ::_JobBasics_largePath* job = nullptr;
+        if (!jobs.getNewJob(job))
+            return -1;
+        job->renderApp.appName.set(appNameHoudini);
+        job->layer.set(QStringLiteral("/out/mantra1"));
+        job->sceneDatabaseDir.set(QStringLiteral("/proj/shot/"));
+        zkTest::TextLines lines(text);
+        LoadContext ctx;
+        ctx.data = &record;
+        ctx.scenePath = scenePath.toQString();
+        return scanScene(ctx, lines.source).result;
+    }
+
+    zkJ::_JobBasicsArray jobs;
+    _zkString<500> scenePath { QStringLiteral("/proj/shot/scene.hip") };
+    zkP::_dataPARS_LoadSceneFile record { &scenePath, &jobs, nullptr };
+};
+
+TEST_F(HostileScene, ValidSceneFillsEveryList)
+{
+    ASSERT_EQ(scan(ValidScene), 1);
+    EXPECT_EQ(jobs.records[0].imageFileName.toQString(), QStringLiteral("a."));
+    EXPECT_EQ(jobs.records[0].imageDir.toQString(), QStringLiteral("<Database>/"));
+    EXPECT_EQ(jobs.records[0].imageExtension.toQString(), QStringLiteral(".rs"));
+    EXPECT_EQ(camList.list.size(), 2);
+    EXPECT_EQ(LOPList.list.size(), 1);
+    EXPECT_EQ(USD_RSList.list.size(), 1);
+    EXPECT_EQ(wedges.size(), 1);
+}
+
+TEST_F(HostileScene, EveryPrefixScans)
+{
+    for (qsizetype n = 0; n <= ValidScene.size(); ++n)
+        ASSERT_EQ(scan(ValidScene.left(n)), 1) << "prefix of " << n << " bytes";
+}
+
+TEST_F(HostileScene, DamagedCopiesScan)
+{
+    // Bytes that steer the readers: line and section ends, brackets, quotes,
+    // tabs, digits, multi-byte starts, and no byte at all.
+    const char steering[] = { '\n', '\r', '{', '}', '(', ')', '"', '\t', ' ', '-', '9', '.', '/',
+        '_', ',', '\0', '\xc3', '\xff', '#' };
+    std::mt19937 rng(20261122);
+    for (int round = 0; round < 3000; ++round) {
+        QByteArray text = ValidScene;
+        const int edits = 1 + int(rng() % 8);
+        for (int e = 0; e < edits; ++e) {
+            const qsizetype at = qsizetype(rng() % quint32(text.size() + 1));
+            const char byte = steering[rng() % sizeof(steering)];
+            switch (rng() % 3) {
+            case 0:
+                if (at < text.size())
+                    text[at] = byte;
+                break;
+            case 1:
+                text.insert(at, byte);
+                break;
+            default:
+                text.remove(at, qsizetype(rng() % 40));
+            }
+        }
+        ASSERT_EQ(scan(text), 1) << "round " << round << ": "
+                                 << text.toPercentEncoding().constData();
+    }
+}
+
+} // namespace
