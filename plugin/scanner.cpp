@@ -185,6 +185,23 @@ bool mayHoldAnyCase(QByteArrayView raw, qsizetype at, const char* key)
     return true;
 }
 
+/// Whether \p text (a few ASCII bytes) occurs in \p body, exactly. A search
+/// for its first byte and a compare there; Qt's general substring search costs
+/// more to set up than these short lines take to scan.
+bool holdsBytes(QByteArrayView body, const char* text)
+{
+    const size_t n = std::strlen(text);
+    const char* const begin = body.data();
+    const char* const end = begin + body.size();
+    for (const char* p = begin; size_t(end - p) >= n
+         && (p = static_cast<const char*>(std::memchr(p, text[0], size_t(end - p) - n + 1)));
+         ++p) {
+        if (std::memcmp(p, text, n) == 0)
+            return true;
+    }
+    return false;
+}
+
 /// Cheap test on a raw line: false only for lines that no rule of the scan
 /// can take, which are nearly all lines of a scene. Every rule's exact test
 /// runs afterwards on the decoded text, so this only has to be generous.
@@ -212,7 +229,7 @@ bool mayMatter(QByteArrayView raw, bool hasUnderscore)
         return true;
     if (head == 't' && body.startsWith("take name"))
         return true;
-    if (tail == '{' && body.size() > 6 && body.contains(".parm"))
+    if (tail == '{' && holdsBytes(body, ".parm"))
         return true;
     // A variable line starts with "set -g " or "Hou" and holds " = ".
     if ((mayHoldAnyCase(body, 0, "set -g ") || mayHoldAnyCase(body, 0, "hou"))
@@ -220,8 +237,11 @@ bool mayMatter(QByteArrayView raw, bool hasUnderscore)
         return true;
     if (!hasUnderscore)
         return false;
-    for (qsizetype at = body.indexOf('_'); at >= 0; at = body.indexOf('_', at + 1)) {
-        if (mayHoldAnyCase(body, at, "_hip_saveversion"))
+    const char* const begin = body.data();
+    const char* const end = begin + body.size();
+    for (const char* p = begin;
+         (p = static_cast<const char*>(std::memchr(p, '_', size_t(end - p)))); ++p) {
+        if (mayHoldAnyCase(body, p - begin, "_hip_saveversion"))
             return true;
     }
     return false;
