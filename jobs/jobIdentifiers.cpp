@@ -14,8 +14,7 @@ QString _JobBasics::IDstr() const
 
 QString _JobBasics::ID2str() const
 {
-    const unsigned long long id = ID;
-    return zkJ::ID2str(id);
+    return IDstr();
 }
 
 QString _JobBasics::IDstrFull() const
@@ -26,8 +25,7 @@ QString _JobBasics::IDstrFull() const
 
 QString _JobBasics::ID2strFull() const
 {
-    const unsigned long long id = ID;
-    return zkJ::ID2strFull(id);
+    return IDstrFull();
 }
 
 unsigned long long _JobBasics::IDmain() const
