@@ -4,14 +4,6 @@
 
 namespace {
 
-/// The last component of a node path such as "/out/mantra1". A layer whose
-/// only "/" leads it (or that has none) is already a bare name.
-QString nodeName(const QString& layer)
-{
-    const qsizetype slash = layer.lastIndexOf(u'/');
-    return slash > 0 ? layer.mid(slash + 1) : layer;
-}
-
 /// The value of a variable as ":r" (root) gives it: scene extensions dropped
 /// wherever they stand, longest first so ".hiplc" does not leave "lc".
 QString withoutSceneExtensions(QString value)
@@ -28,6 +20,12 @@ void replaceAny(QString& text, const QString& pattern, const QString& value)
 }
 
 } // namespace
+
+QString houdiniNodeName(const QString& nodePath)
+{
+    const qsizetype slash = nodePath.lastIndexOf(u'/');
+    return slash > 0 ? nodePath.mid(slash + 1) : nodePath;
+}
 
 QString replaceHoudiniVariables(QString path, zkJ::_JobBasics_largePath* job,
     QList<_namevalue>& variables, _zkString<500> const& sceneFile)
@@ -62,7 +60,7 @@ QString replaceHoudiniVariables(QString path, zkJ::_JobBasics_largePath* job,
         replaceAny(path, braced, variable.value);
     }
 
-    const QString node = nodeName(job->layer.toQString());
+    const QString node = houdiniNodeName(job->layer.toQString());
     replaceAny(path, QStringLiteral("$OS"), node);
     replaceAny(path, QStringLiteral("${OS}"), node);
 

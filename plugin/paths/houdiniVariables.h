@@ -8,6 +8,10 @@
 #include <QList>
 #include <QString>
 
+/// The node name of a node path: the text after its last "/", or the whole
+/// path when it has no "/" or only a leading one ("/out/mantra1" gives "mantra1").
+QString houdiniNodeName(const QString& nodePath);
+
 /// Replaces $HIPNAME, $HIP, the scene's own variables, $OS and the frame-range
 /// variables in \p path (matched ignoring case, in a fixed order) and returns it.
 QString replaceHoudiniVariables(QString path, zkJ::_JobBasics_largePath* job,

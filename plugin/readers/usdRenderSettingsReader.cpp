@@ -52,14 +52,6 @@ QString settingValue(const QString& line)
     return value.trimmed();
 }
 
-/// The last path component of a node path; a path whose only "/" is its first
-/// character stays whole.
-QString nodeName(const QString& nodePath)
-{
-    const qsizetype slash = nodePath.lastIndexOf(u'/');
-    return slash > 0 ? nodePath.mid(slash + 1) : nodePath;
-}
-
 /// The archive file becomes the image output of every Houdini job of the
 /// entry's first registered driver, expanded and split again. 7 when the
 /// array yields no record for an index below its count.
@@ -70,7 +62,7 @@ int rewriteDriverJobs(zkP::_dataPARS_LoadSceneFile* data, const _USD_Rendersetti
 
     const _zkString<25> houdini(appNameHoudini);
     const _zkString<150> driver(entry.renderNodes.first());
-    const _zkString<1000> name(nodeName(entry.nodePath));
+    const _zkString<1000> name(houdiniNodeName(entry.nodePath));
     const _zkString<500> noScene;
     const _zkString<500>& sceneFile = data->sceneFile ? *data->sceneFile : noScene;
 
