@@ -80,6 +80,23 @@ QString valueOf(const _JobSettingsScene& s, const RawEntry& e)
         e.kind == Kind16bit ? CUSTOMData_Mode16bit : CUSTOMData_Mode8bit);
 }
 
+/// Entry number \p id in table order; false when \p id is not below the count.
+bool entryAt(const _JobSettingsScene& s, int id, RawEntry& out)
+{
+    if (id < 0 || id >= s.customDataCount)
+        return false;
+    bool found = false;
+    int k = 0;
+    walkEntries(s, [&](const RawEntry& e) {
+        if (k++ != id)
+            return true;
+        out = e;
+        found = true;
+        return false;
+    });
+    return found;
+}
+
 QList<Entry> readAll(const _JobSettingsScene& s)
 {
     QList<Entry> all;
@@ -210,32 +227,14 @@ int _JobSettingsScene::customData_maxIDs() const
 
 QString _JobSettingsScene::customData_NameByID(const int& id) const
 {
-    if (id < 0 || id >= customDataCount)
-        return QString();
-    QString name;
-    int k = 0;
-    walkEntries(*this, [&](const RawEntry& e) {
-        if (k++ != id)
-            return true;
-        name = e.name;
-        return false;
-    });
-    return name;
+    RawEntry e;
+    return entryAt(*this, id, e) ? e.name : QString();
 }
 
 QString _JobSettingsScene::customData_StrByID(const int& id) const
 {
-    if (id < 0 || id >= customDataCount)
-        return QString();
-    QString value;
-    int k = 0;
-    walkEntries(*this, [&](const RawEntry& e) {
-        if (k++ != id)
-            return true;
-        value = valueOf(*this, e);
-        return false;
-    });
-    return value;
+    RawEntry e;
+    return entryAt(*this, id, e) ? valueOf(*this, e) : QString();
 }
 
 void _JobSettingsScene::customData_All(QStringList& names, QStringList& values) const
