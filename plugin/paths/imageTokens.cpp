@@ -1,21 +1,17 @@
 #include "imageTokens.h"
 
+#include "plugin/parameterLine.h"
+
 namespace {
 
-/// The value of a parameter line: the text inside its outer "( ... )",
-/// trimmed and without its enclosing double quotes.
-QString parameterValue(const QString& line)
+/// Replaces the token of \p length characters at \p at by "%", keeping one
+/// width digit behind it, and closes the placeholder with "d".
+void toPlaceholder(QString& value, qsizetype at, qsizetype length)
 {
-    const qsizetype open = line.indexOf(u'(');
-    QString value = line.mid(open + 1);
-    const qsizetype close = value.lastIndexOf(u')');
-    if (close < 0)
-        return QString();
-    value.truncate(close);
-    value = value.trimmed();
-    if (value.startsWith(u'"') && value.endsWith(u'"'))
-        value = value.size() >= 2 ? value.mid(1, value.size() - 2) : QString();
-    return value.trimmed();
+    const qsizetype widthAt = at + length;
+    const bool hasWidth = widthAt < value.size() && value.at(widthAt).isDigit();
+    value.insert(hasWidth ? widthAt + 1 : widthAt, u'd');
+    value.replace(at, length, u'%');
 }
 
 /// Turns the first "$F", "$F4", "${F}" or "${F4}" into "%d" / "%4d" (a
@@ -23,31 +19,33 @@ QString parameterValue(const QString& line)
 /// the value has no frame token.
 bool convertFrameToken(QString& value)
 {
-    qsizetype at = value.indexOf(QStringLiteral("$F"), 0, Qt::CaseInsensitive);
-    qsizetype tokenLength = 2;
-    if (at < 0) {
-        at = value.indexOf(QStringLiteral("${F"), 0, Qt::CaseInsensitive);
-        tokenLength = 3;
-    }
+    if (convertFirstDollarF(value))
+        return true;
+    const qsizetype at = value.indexOf(QStringLiteral("${F"), 0, Qt::CaseInsensitive);
     if (at < 0)
         return false;
-    const qsizetype widthAt = at + tokenLength;
-    const bool hasWidth = widthAt < value.size() && value.at(widthAt).isDigit();
-    value.insert(hasWidth ? widthAt + 1 : widthAt, u'd');
-    value.replace(at, tokenLength, u'%');
+    toPlaceholder(value, at, 3);
     return true;
 }
 
 } // namespace
+
+bool convertFirstDollarF(QString& path)
+{
+    const qsizetype at = path.indexOf(QStringLiteral("$F"), 0, Qt::CaseInsensitive);
+    if (at < 0)
+        return false;
+    toPlaceholder(path, at, 2);
+    return true;
+}
 
 bool replaceImageOutVars(
     QString line, bool const& prepend, QString& imageOut, bool& takeFound, bool& singleFile)
 {
     singleFile = false;
 
-    const qsizetype tab = line.indexOf(u'\t');
-    const QString name = tab < 0 ? line : line.left(tab);
-    QString value = parameterValue(line);
+    const QString name = parameterLine::parameterName(line);
+    QString value = parameterLine::outerBracketValue(line);
 
     // Houdini's floating frame number becomes a plain one-digit frame token.
     if (value.contains(QStringLiteral("$FF"), Qt::CaseInsensitive))
@@ -70,13 +68,10 @@ bool replaceImageOutVars(
 
     // A value that refers to its own parameter ("[ picture]") is only usable
     // as the first path found for the node.
-    const QString selfReference = QStringLiteral("[ ") + name;
-    if (value.contains(selfReference, Qt::CaseSensitive)) {
+    if (value.contains(QStringLiteral("[ ") + name, Qt::CaseSensitive)) {
         if (!imageOut.isEmpty())
             return false;
-        value.remove(selfReference, Qt::CaseSensitive);
-        value.remove(u']');
-        value = value.trimmed();
+        value = parameterLine::withoutSelfReference(value, name);
     }
 
     if (value.contains(QStringLiteral("chs("), Qt::CaseSensitive))

@@ -10,3 +10,7 @@
 /// the value holds no frame token.
 bool replaceImageOutVars(
     QString line, bool const& prepend, QString& imageOut, bool& takeFound, bool& singleFile);
+
+/// Turns the first "$F" of \p path (any case) into a printf placeholder:
+/// "$F4" becomes "%4d", a bare "$F" "%d". False when there is none.
+bool convertFirstDollarF(QString& path);

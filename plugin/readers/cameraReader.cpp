@@ -1,16 +1,20 @@
 #include "elementSection.h"
+#include "plugin/parameterLine.h"
 #include "plugin/parserState.h"
 #include "readerCommon.h"
+#include "sectionLoop.h"
 
 using namespace elementSection;
 
 namespace {
 
+const QLatin1String ResolutionKeyword("res\t");
+
 /// "res\t[ 0\tlocks=0 ]\t(\t1920\t1080\t)": width before the first tab, height
 /// after it; a value without a tab gives both the same number.
 void readResolution(const QString& line, _camNode& cam)
 {
-    const QString value = bracketValue(line);
+    const QString value = parameterLine::unquotedBracketValue(line);
     const qsizetype tab = value.indexOf(u'\t');
     cam.resX = value.left(tab < 0 ? value.size() : tab).trimmed().toInt();
     cam.resY = value.mid(tab + 1).trimmed().toInt();
@@ -25,16 +29,15 @@ bool loadCamNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& li
     cam.name.set(nodePathOutObj(line));
     cam.isStereo = cam.name.indexOf(_zkString8_allSize<150>("stereo"), 0) >= 0;
 
-    while (in.next(line)) {
-        if (line.isEmpty() || line.startsWith(u'#'))
-            continue;
-        if (line.startsWith(u'}')) {
-            camList.addCam(cam);
-            return true;
-        }
-        if (hasKeyword(line, QLatin1String("res\t")))
-            readResolution(line, cam);
-    }
-    // Cut off by the end of the file: a camera without its closing brace is not trusted.
+    static const sectionLoop::KeywordStarts starts { ResolutionKeyword };
+    const sectionLoop::SectionEnd end
+        = sectionLoop::readSection(in, line, starts, [&](const sectionLoop::SectionLine& l) {
+              if (l.startsWith(ResolutionKeyword))
+                  readResolution(l.text(), cam);
+              return true;
+          });
+    // A camera cut off by the end of the file is not trusted.
+    if (end == sectionLoop::SectionEnd::Closed)
+        camList.addCam(cam);
     return true;
 }

@@ -10,12 +10,6 @@
 
 namespace elementSection {
 
-/// Keyword at the start of a line, ignoring case.
-inline bool hasKeyword(QStringView line, QLatin1String keyword)
-{
-    return line.startsWith(keyword, Qt::CaseInsensitive);
-}
-
 /// Text from \p from up to, not including, the first ".parm", with "/" in front.
 /// A header without ".parm" gives "/" alone.
 inline QString nodePathFrom(const QString& header, qsizetype from)
@@ -46,19 +40,6 @@ inline QString nodePathStage(const QString& header)
             return nodePathFrom(header, at);
     }
     return nodePathFrom(header, 0);
-}
-
-/// The value between the first "(" and the first ")" after it, without double
-/// quotes, trimmed. A line with no ")" behind its "(" has no value.
-inline QString bracketValue(const QString& line)
-{
-    const qsizetype open = line.indexOf(u'(');
-    const qsizetype close = line.indexOf(u')', open + 1);
-    if (close < 0)
-        return QString();
-    QString value = line.mid(open + 1, close - open - 1);
-    value.remove(u'"');
-    return value.trimmed();
 }
 
 /// Drivers may name a node through `chsop(\"...\")`; that wrapper loses its

@@ -2,6 +2,7 @@
 #include "plugin/parserState.h"
 #include "plugin/paths/imageTokens.h"
 #include "readerCommon.h"
+#include "sectionLoop.h"
 
 using namespace elementSection;
 
@@ -11,17 +12,17 @@ bool loadLOPNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& li
     _LOPNode node;
     node.nodePath = nodePathStage(line);
 
-    while (in.next(line)) {
-        if (line.isEmpty() || line.startsWith(u'#'))
-            continue;
-        if (line.startsWith(u'}')) {
-            LOPList.addLOP(node);
+    static const QLatin1String picture("picture\t");
+    static const sectionLoop::KeywordStarts starts { picture };
+    const sectionLoop::SectionEnd end = sectionLoop::readSection(
+        in, line, starts, [&](const sectionLoop::SectionLine& l) {
+            if (l.startsWith(picture)) {
+                bool singleFile = false;
+                replaceImageOutVars(l.text(), false, node.imageOut, node.imageUsesTake, singleFile);
+            }
             return true;
-        }
-        if (hasKeyword(line, QLatin1String("picture\t"))) {
-            bool singleFile = false;
-            replaceImageOutVars(line, false, node.imageOut, node.imageUsesTake, singleFile);
-        }
-    }
+        });
+    if (end == sectionLoop::SectionEnd::Closed)
+        LOPList.addLOP(node);
     return true;
 }

@@ -1,15 +1,17 @@
 #include "elementSection.h"
 #include "plugin/loadResult.h"
+#include "plugin/parameterLine.h"
 #include "plugin/parserState.h"
 #include "plugin/paths/houdiniVariables.h"
 #include "plugin/paths/imageTokens.h"
 #include "readerCommon.h"
+#include "sectionLoop.h"
 
 using namespace elementSection;
 
 namespace {
 
-enum class RSKeyword { End, Camera, EnableControl, Enable, FileNameControl, FileName, None };
+enum class RSKeyword { Camera, EnableControl, Enable, FileNameControl, FileName, None };
 
 struct RSKeywordRow
 {
@@ -20,7 +22,6 @@ struct RSKeywordRow
 /// Tried in this order: "..._archive_enable" is a prefix of "..._archive_enable_control",
 /// and "..._fileName" of "..._fileName_control", so the longer keywords come first.
 const RSKeywordRow RSKeywords[] = {
-    { QLatin1String("}"), RSKeyword::End },
     { QLatin1String("camera\t"), RSKeyword::Camera },
     { QLatin1String("xn__redshiftglobalRS_archive_enable_control"), RSKeyword::EnableControl },
     { QLatin1String("xn__redshiftglobalRS_archive_enable"), RSKeyword::Enable },
@@ -28,10 +29,10 @@ const RSKeywordRow RSKeywords[] = {
     { QLatin1String("xn__redshiftglobalRS_archive_fileName"), RSKeyword::FileName },
 };
 
-RSKeyword classify(const QString& line)
+RSKeyword classify(const sectionLoop::SectionLine& line)
 {
     for (const RSKeywordRow& row : RSKeywords) {
-        if (hasKeyword(line, row.keyword))
+        if (line.startsWith(row.keyword))
             return row.kind;
     }
     return RSKeyword::None;
@@ -41,21 +42,15 @@ RSKeyword classify(const QString& line)
 /// that reference.
 QString settingValue(const QString& line)
 {
-    const qsizetype tab = line.indexOf(u'\t');
-    const QString name = line.left(tab < 0 ? line.size() : tab);
-    QString value = bracketValue(line);
-    const QString selfRef = QStringLiteral("[ ") + name;
-    if (!value.contains(selfRef))
-        return value;
-    value.remove(selfRef);
-    value.remove(u']');
-    return value.trimmed();
+    return parameterLine::withoutSelfReference(
+        parameterLine::unquotedBracketValue(line), parameterLine::parameterName(line));
 }
 
 /// The archive file becomes the image output of every Houdini job of the
 /// entry's first registered driver, expanded and split again. 7 when the
 /// array yields no record for an index below its count.
-int rewriteDriverJobs(zkP::_dataPARS_LoadSceneFile* data, const _USD_RendersettingNode& entry)
+LoadResult rewriteDriverJobs(
+    zkP::_dataPARS_LoadSceneFile* data, const _USD_RendersettingNode& entry)
 {
     if (entry.renderNodes.isEmpty() || !data || !data->jobs || data->jobs->count <= 0)
         return LoadOk;
@@ -87,42 +82,48 @@ int rewriteDriverJobs(zkP::_dataPARS_LoadSceneFile* data, const _USD_Rendersetti
 
 } // namespace
 
-int load_USD_RS_Node(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& line)
+LoadResult load_USD_RS_Node(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& line)
 {
     _USD_RendersettingNode node;
     node.nodePath = nodePathStage(line);
 
-    while (in.next(line)) {
-        if (line.isEmpty() || line.startsWith(u'#'))
-            continue;
-        switch (classify(line)) {
-        case RSKeyword::End: {
-            const int index = USD_RSList.add(node);
-            return rewriteDriverJobs(data, USD_RSList.list.at(index));
-        }
-        case RSKeyword::Camera: {
-            const QString camera = settingValue(line);
-            // A channel expression names no camera the plugin could resolve.
-            if (!camera.contains(QLatin1String("chs("))
-                && !camera.contains(QLatin1String("chsop(")))
-                node.camera = camera;
-            break;
-        }
-        case RSKeyword::EnableControl:
-        case RSKeyword::FileNameControl:
-            node.archiveControlSet = settingValue(line).contains(QLatin1String("set"));
-            break;
-        case RSKeyword::Enable:
-            node.archiveEnabled = settingValue(line).contains(QLatin1String("on"));
-            break;
-        case RSKeyword::FileName: {
-            bool singleFile = false;
-            replaceImageOutVars(line, false, node.archiveFile, node.imageUsesTake, singleFile);
-            break;
-        }
-        case RSKeyword::None:
-            break;
-        }
-    }
-    return LoadOk;
+    static const sectionLoop::KeywordStarts starts = [] {
+        sectionLoop::KeywordStarts s;
+        for (const RSKeywordRow& row : RSKeywords)
+            s.add(row.keyword);
+        return s;
+    }();
+    const sectionLoop::SectionEnd end
+        = sectionLoop::readSection(in, line, starts, [&](const sectionLoop::SectionLine& l) {
+              switch (classify(l)) {
+              case RSKeyword::Camera: {
+                  const QString camera = settingValue(l.text());
+                  // A channel expression names no camera the plugin could resolve.
+                  if (!camera.contains(QLatin1String("chs("))
+                      && !camera.contains(QLatin1String("chsop(")))
+                      node.camera = camera;
+                  break;
+              }
+              case RSKeyword::EnableControl:
+              case RSKeyword::FileNameControl:
+                  node.archiveControlSet = settingValue(l.text()).contains(QLatin1String("set"));
+                  break;
+              case RSKeyword::Enable:
+                  node.archiveEnabled = settingValue(l.text()).contains(QLatin1String("on"));
+                  break;
+              case RSKeyword::FileName: {
+                  bool singleFile = false;
+                  replaceImageOutVars(
+                      l.text(), false, node.archiveFile, node.imageUsesTake, singleFile);
+                  break;
+              }
+              case RSKeyword::None:
+                  break;
+              }
+              return true;
+          });
+    if (end != sectionLoop::SectionEnd::Closed)
+        return LoadOk;
+    const int index = USD_RSList.add(node);
+    return rewriteDriverJobs(data, USD_RSList.list.at(index));
 }

@@ -1,6 +1,8 @@
 #include "elementSection.h"
+#include "plugin/parameterLine.h"
 #include "plugin/parserState.h"
 #include "readerCommon.h"
+#include "sectionLoop.h"
 
 using namespace elementSection;
 
@@ -30,7 +32,7 @@ enum class ParamLine { Used, Ignored, Invalid, EndsSection };
 /// value without a tab gives both ends the same number.
 void readRange(const QString& line, _wedgeParams& param)
 {
-    QString value = bracketValue(line);
+    QString value = parameterLine::unquotedBracketValue(line);
     value.replace(u',', u'.');
     const qsizetype tab = value.indexOf(u'\t');
     param.rangeStart = value.left(tab < 0 ? value.size() : tab).trimmed().toDouble();
@@ -57,10 +59,10 @@ ParamLine readParamLine(const QString& line, const ParamKeyword& kw, _wedgeNode&
     _wedgeParams& param = wedge.params[number - 1];
     switch (kw.kind) {
     case ParamKind::Name:
-        param.name = bracketValue(line);
+        param.name = parameterLine::unquotedBracketValue(line);
         break;
     case ParamKind::Steps:
-        param.steps = bracketValue(line).toInt();
+        param.steps = parameterLine::unquotedBracketValue(line).toInt();
         break;
     case ParamKind::Range:
         readRange(line, param);
@@ -92,36 +94,37 @@ bool loadWedgeNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& 
     wedge.nodePath = nodePathOutObj(line);
     bool invalid = false;
 
-    while (in.next(line)) {
-        if (line.isEmpty() || line.startsWith(u'#'))
-            continue;
-        if (line.startsWith(u'}')) {
-            if (!invalid && isListed(wedge))
-                wedges.append(wedge);
-            return true;
-        }
-        if (hasKeyword(line, QLatin1String("prefix\t"))) {
-            wedge.prefix = bracketValue(line);
-            continue;
-        }
-        if (hasKeyword(line, QLatin1String("driver\t"))) {
-            wedge.driver = absoluteDriver(bracketValue(line), wedge.nodePath);
-            continue;
-        }
-        if (hasKeyword(line, QLatin1String("wedgemethod\t"))) {
-            wedge.wedgeMethod = bracketValue(line);
-            continue;
-        }
-        for (const ParamKeyword& kw : ParamKeywords) {
-            if (!hasKeyword(line, kw.keyword))
-                continue;
-            const ParamLine result = readParamLine(line, kw, wedge);
-            if (result == ParamLine::EndsSection)
-                return true;
-            if (result == ParamLine::Invalid)
-                invalid = true;
-            break;
-        }
-    }
+    static const QLatin1String prefix("prefix\t");
+    static const QLatin1String driver("driver\t");
+    static const QLatin1String method("wedgemethod\t");
+    static const sectionLoop::KeywordStarts starts { prefix, driver, method,
+        ParamKeywords[0].keyword, ParamKeywords[1].keyword, ParamKeywords[2].keyword };
+    const sectionLoop::SectionEnd end
+        = sectionLoop::readSection(in, line, starts, [&](const sectionLoop::SectionLine& l) {
+              if (l.startsWith(prefix)) {
+                  wedge.prefix = parameterLine::unquotedBracketValue(l.text());
+                  return true;
+              }
+              if (l.startsWith(driver)) {
+                  wedge.driver = absoluteDriver(
+                      parameterLine::unquotedBracketValue(l.text()), wedge.nodePath);
+                  return true;
+              }
+              if (l.startsWith(method)) {
+                  wedge.wedgeMethod = parameterLine::unquotedBracketValue(l.text());
+                  return true;
+              }
+              for (const ParamKeyword& kw : ParamKeywords) {
+                  if (!l.startsWith(kw.keyword))
+                      continue;
+                  const ParamLine result = readParamLine(l.text(), kw, wedge);
+                  if (result == ParamLine::Invalid)
+                      invalid = true;
+                  return result != ParamLine::EndsSection;
+              }
+              return true;
+          });
+    if (end == sectionLoop::SectionEnd::Closed && !invalid && isListed(wedge))
+        wedges.append(wedge);
     return true;
 }
