@@ -21,6 +21,7 @@ int seqStep = 1;
 QString DatabaseDir;
 QList<_namevalue> hVariables;
 QMap<QString, QString> nodeActiveTakes;
+QMap<QString, double> nodeResFractions;
 QList<_wedgeNode> wedges;
 _camList camList;
 _LOPList LOPList;
@@ -40,6 +41,7 @@ void resetParserState()
     DatabaseDir.clear();
     hVariables.clear();
     nodeActiveTakes.clear();
+    nodeResFractions.clear();
     wedges.clear();
     camList = _camList();
     LOPList = _LOPList();

@@ -41,6 +41,9 @@ extern int seqStep;
 extern QString DatabaseDir;
 extern QList<_namevalue> hVariables;
 extern QMap<QString, QString> nodeActiveTakes; // keyed by the job's layer text
+/// Resolution fraction of drivers whose size is a fraction of their camera's,
+/// keyed like nodeActiveTakes, so both jobs of an export pair find it.
+extern QMap<QString, double> nodeResFractions;
 extern QList<_wedgeNode> wedges;
 extern _camList camList;
 extern _LOPList LOPList;

@@ -327,20 +327,20 @@ void takeEnvironment()
     }
 }
 
-/// Hands a section to its reader; a result other than 1 ends the scan.
-int readSection(SectionKind kind, const SectionReaders& readers, const LoadContext& ctx,
+/// Hands a section to its reader; a result other than LoadOk ends the scan.
+LoadResult readSection(SectionKind kind, const SectionReaders& readers, const LoadContext& ctx,
     LineSource& in, QString& header, ScanResult& scan)
 {
     switch (kind) {
     case SectionKind::Wedge:
         readers.wedge(ctx.data, in, header);
-        return 1;
+        return LoadOk;
     case SectionKind::Camera:
         readers.camera(ctx.data, in, header);
-        return 1;
+        return LoadOk;
     case SectionKind::Lop:
         readers.lop(ctx.data, in, header);
-        return 1;
+        return LoadOk;
     case SectionKind::UsdRenderSettings:
         return readers.usdRenderSettings(ctx.data, in, header);
     case SectionKind::OutNode:
@@ -349,7 +349,7 @@ int readSection(SectionKind kind, const SectionReaders& readers, const LoadConte
     case SectionKind::None:
         break;
     }
-    return 1;
+    return LoadOk;
 }
 
 } // namespace
@@ -406,8 +406,10 @@ ScanResult scanScene(const LoadContext& ctx, LineSource& in, const SectionReader
         if (line.isEmpty() || line.front() == u'#')
             continue;
 
+        // Only "frange" and a blank is the scene's range: node parameters named
+        // "frange" ("frange\t[ 0 ...") would reset every driver's range.
         if ((line.front().unicode() | 0x20) == u'f'
-            && line.startsWith(QStringView(u"frange"), Qt::CaseInsensitive))
+            && line.startsWith(QStringView(u"frange "), Qt::CaseInsensitive))
             readFrameRange(line);
 
         if (findSaveVersion(line) >= 0) {
@@ -432,8 +434,8 @@ ScanResult scanScene(const LoadContext& ctx, LineSource& in, const SectionReader
         if (kind == SectionKind::None)
             continue;
         header = line.toString();
-        const int result = readSection(kind, readers, ctx, in, header, scan);
-        if (result != 1) {
+        const LoadResult result = readSection(kind, readers, ctx, in, header, scan);
+        if (result != LoadOk) {
             scan.result = result;
             break;
         }

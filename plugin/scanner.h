@@ -4,6 +4,7 @@
 
 #include "plugin/lineSource.h"
 #include "plugin/loadContext.h"
+#include "plugin/loadResult.h"
 #include "plugin/readers/readerCommon.h"
 
 #include <QString>
@@ -14,8 +15,8 @@
 /// the fan-out work from it.
 struct ScanResult
 {
-    /// 1, or the code of the reader that ended the scan.
-    int result = 1;
+    /// LoadOk, or the code of the reader that ended the scan.
+    LoadResult result = LoadOk;
     /// "take name" entries in file order.
     QStringList takes;
     /// The saved Houdini version as written, such as "19.5.303".
@@ -49,8 +50,8 @@ SectionKind sectionKind(QStringView line);
 struct SectionReaders
 {
     using ElementReader = bool (*)(zkP::_dataPARS_LoadSceneFile*, LineSource&, QString&);
-    using UsdReader = int (*)(zkP::_dataPARS_LoadSceneFile*, LineSource&, QString&);
-    using OutReader = int (*)(
+    using UsdReader = LoadResult (*)(zkP::_dataPARS_LoadSceneFile*, LineSource&, QString&);
+    using OutReader = LoadResult (*)(
         zkP::_dataPARS_LoadSceneFile*, LineSource&, QString&, bool&, const int&, const QString&);
 
     ElementReader wedge = loadWedgeNode;

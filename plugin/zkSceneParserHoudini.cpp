@@ -1,4 +1,5 @@
 // The two entry points the host resolves by name.
+#include "completion.h"
 #include "loadContext.h"
 #include "loadResult.h"
 #include "parserState.h"
@@ -22,7 +23,7 @@ constexpr const char* PluginVersion = "1.0";
 constexpr const char* FileFilter = "*.hip;*.hipnc;*.hiplc;";
 constexpr int QtVersionCapacity = 25;
 
-int loadScene(zkP::_dataPARS_LoadSceneFile& data)
+LoadResult loadScene(zkP::_dataPARS_LoadSceneFile& data)
 {
     if (!data.jobs || !data.jobs->isVersionSupported(1))
         return LoadUnsupportedArray;
@@ -45,13 +46,14 @@ int loadScene(zkP::_dataPARS_LoadSceneFile& data)
         return LoadCannotOpen;
 
     resetParserState();
-    QTextStream stream(&file);
-    LineSource in(stream);
-    const ScanResult scan = scanScene(ctx, in);
+    ScanResult scan;
+    {
+        QTextStream stream(&file);
+        LineSource in(stream);
+        scan = scanScene(ctx, in);
+    }
     file.close();
-    if (scan.result != LoadOk)
-        return scan.result;
-    return LoadOk;
+    return finishLoad(ctx, scan);
 }
 
 } // namespace

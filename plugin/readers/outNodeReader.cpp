@@ -1,13 +1,471 @@
+// The output-driver reader: one render node's parameter section becomes one
+// job, or two for a scene-description export (the export, and the render
+// that waits for it).
+//
+// The section's lines are matched against one ordered table of rules; the
+// first rule whose keyword begins the line (ignoring case) and whose
+// condition holds takes it. Conditions read the renderer flags as they stand
+// when the line is read, so the order of a section's lines matters: an
+// export toggle read after a Redshift line is not Mantra's toggle.
+#include "outNodeJobs.h"
+#include "plugin/parameterLine.h"
+#include "plugin/parserState.h"
+#include "plugin/paths/imageTokens.h"
 #include "readerCommon.h"
+#include "sectionLoop.h"
 
-int loadOutNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& line, bool& takeFound,
-    const int& houdiniMajor, const QString& houdiniMinorForReaders)
+#include <array>
+#include <cmath>
+#include <vector>
+
+using parameterLine::bracketValue;
+using parameterLine::unquotedBracketValue;
+
+namespace {
+
+/// Beyond this many jobs a driver is skipped: a scene with thousands of
+/// drivers must not run the host out of job records.
+constexpr int MaxJobsBeforeDriver = 250;
+
+enum class Step {
+    Next, ///< read the next line
+    Abandon, ///< leave the section now, without a job
+};
+
+// ---- the handlers ----------------------------------------------------------
+
+/// A picture, output or file parameter: the last accepted value wins, or goes
+/// in front of the path already read once a Redshift prefix was seen.
+Step picture(Driver& d, const QString& line)
 {
-    (void)data;
-    (void)takeFound;
-    (void)houdiniMajor;
-    (void)houdiniMinorForReaders;
-    // Output drivers do not make jobs yet; their sections are consumed whole.
-    skipSection(in, line);
-    return 1;
+    bool singleFile = false;
+    const bool accepted
+        = replaceImageOutVars(line, d.prependPicture, d.imagePath, d.takeFound, singleFile);
+    // An Alembic archive without a frame token holds the whole range in one file.
+    if (d.isAlembic && accepted && singleFile)
+        d.isSingleFile = true;
+    return Step::Next;
+}
+
+Step frameRangeMode(Driver&, const QString& line)
+{
+    if (line.contains(QLatin1String("\"on\"")) || line.contains(QLatin1String("\"normal\"")))
+        trange = true;
+    return Step::Next;
+}
+
+/// Removes everything up to and including the first \p marker (nothing when
+/// it does not occur).
+void dropThrough(QString& text, QStringView marker, Qt::CaseSensitivity cs = Qt::CaseSensitive)
+{
+    const qsizetype at = text.indexOf(marker, 0, cs);
+    if (at >= 0)
+        text.remove(0, at + marker.size());
+}
+
+/// The integer of the text before the first \p stop (of the whole text when
+/// there is none); anything but a number reads as 0.
+int intBefore(const QString& text, QChar stop)
+{
+    const qsizetype at = text.indexOf(stop);
+    return QStringView(text).left(at < 0 ? text.size() : at).toInt();
+}
+
+/// "f" holds start, end and step, separated by tabs; start and end may be
+/// channel references "[ f1\t1 ]" and "[ f2\t240 ]".
+Step frameNumbers(Driver&, const QString& line)
+{
+    QString v = bracketValue(line);
+    if (v.contains(QLatin1String("f1"), Qt::CaseInsensitive)) {
+        dropThrough(v, u"f1", Qt::CaseInsensitive);
+        v = v.trimmed();
+        seqStart = intBefore(v, u' ');
+        if (v.contains(QLatin1String("f2"), Qt::CaseInsensitive)) {
+            dropThrough(v, u"f2", Qt::CaseInsensitive);
+            seqEnd = intBefore(v, u' ');
+            dropThrough(v, u"]");
+            v.remove(0, 1);
+        } else {
+            dropThrough(v, u"]");
+            v.remove(0, 1);
+            v = v.trimmed();
+            seqEnd = intBefore(v, u'\t');
+            dropThrough(v, u"\t");
+        }
+        seqStep = QStringView(v).trimmed().toInt();
+        return Step::Next;
+    }
+    if (!v.contains(u'\t'))
+        return Step::Next;
+    seqStart = intBefore(v, u'\t');
+    dropThrough(v, u"\t");
+    v = v.trimmed();
+    if (!v.contains(u'\t')) {
+        seqEnd = v.toInt();
+        seqStep = 1;
+        return Step::Next;
+    }
+    seqEnd = intBefore(v, u'\t');
+    dropThrough(v, u"\t");
+    seqStep = v.toInt();
+    return Step::Next;
+}
+
+Step resolution(Driver& d, const QString& line)
+{
+    QString v = bracketValue(line);
+    d.overrideResX = intBefore(v, u'\t');
+    dropThrough(v, u"\t");
+    d.overrideResY = QStringView(v).trimmed().toInt();
+    return Step::Next;
+}
+
+/// "override_camerares" / "RS_overrideCameraRes": whether the driver's own
+/// size counts at all.
+Step resolutionToggle(Driver& d, const QString& line)
+{
+    const QString v = unquotedBracketValue(line);
+    d.resToggle = v.compare(QLatin1String("on"), Qt::CaseInsensitive) == 0
+            || v.compare(QLatin1String("1"), Qt::CaseInsensitive) == 0
+        ? Driver::Toggle::On
+        : Driver::Toggle::Off;
+    return Step::Next;
+}
+
+/// "res_fraction": the size as a fraction of the camera's, or "specific".
+Step resolutionFraction(Driver& d, const QString& line)
+{
+    bool isNumber = false;
+    const double fraction = unquotedBracketValue(line).toDouble(&isNumber);
+    d.resFraction = isNumber && std::isfinite(fraction) && fraction > 0 ? fraction : 0.0;
+    return Step::Next;
+}
+
+Step camera(Driver& d, const QString& line)
+{
+    const QString v = parameterLine::withoutSelfReference(
+        unquotedBracketValue(line), parameterLine::parameterName(line));
+    // A camera chosen by an expression cannot be resolved without Houdini.
+    if (v.contains(QLatin1String("chs(")) || v.contains(QLatin1String("chsop(")))
+        return Step::Next;
+    d.proxyCamera = v.startsWith(QLatin1String("proxy_export"), Qt::CaseInsensitive);
+    if (!d.proxyCamera)
+        camList.addCamFromOutNode(_zkString8_allSize<150>(v), d.path);
+    return Step::Next;
+}
+
+Step take(Driver& d, const QString& line)
+{
+    d.takeName = unquotedBracketValue(line);
+    d.takeName.remove(QLatin1String("_current_"));
+    return Step::Next;
+}
+
+/// "RS_outputFileFormat": the extension that follows Redshift's file-name prefix.
+Step redshiftExtension(Driver& d, const QString& line)
+{
+    const QString extension = unquotedBracketValue(line);
+    if (!d.imagePath.endsWith(extension, Qt::CaseInsensitive))
+        d.imagePath += extension;
+    return Step::Next;
+}
+
+/// "loppath": an hdprman LOP node may carry the image output itself.
+Step lopLink(Driver& d, const QString& line)
+{
+    const QString v = unquotedBracketValue(line);
+    if (!v.contains(QLatin1String("/hdprman")))
+        return Step::Next;
+    const int index = LOPList.addLOPFromOutNode(v, d.path);
+    const QString& imageOut = LOPList.list.at(index).imageOut;
+    if (!imageOut.isEmpty())
+        d.imagePath = imageOut;
+    return Step::Next;
+}
+
+/// "lopoutput": the USD file a LOP driver writes; such a driver always exports.
+Step usdOutput(Driver& d, const QString& line)
+{
+    bool singleFile = false;
+    if (replaceImageOutVars(line, false, d.exportPath, d.takeFound, singleFile))
+        d.isSingleFile = singleFile;
+    d.isUSD = true;
+    d.exportMode = true;
+    return Step::Next;
+}
+
+/// "renderer": the render delegate of a USD driver, kept as a LOP entry of its own.
+Step lopRenderer(Driver& d, const QString& line)
+{
+    const QString v = unquotedBracketValue(line);
+    const int index = LOPList.addLOPFromOutNode(v, d.path);
+    LOPList.list[index].setRenderer(v);
+    return Step::Next;
+}
+
+Step exportToggle(Driver& d, const QString& line)
+{
+    d.exportMode = bracketValue(line).contains(QLatin1String("on"));
+    return Step::Next;
+}
+
+/// V-Ray's export mode: 0 renders, 1 and 2 export (2 also renders).
+Step vrayExportMode(Driver& d, const QString& line)
+{
+    const QString v = bracketValue(line);
+    d.exportMode = v.contains(u'1') || v.contains(u'2');
+    return Step::Next;
+}
+
+/// "fileperframe": Houdini 18.0 writes a single scene file when it is off.
+Step filePerFrame(Driver& d, const QString& line)
+{
+    if (d.houdiniMajor == 18 && d.houdiniMinorText.startsWith(u'0') && !d.exportPath.contains(u'%'))
+        d.isSingleFile = !line.contains(QLatin1String("on"));
+    return Step::Next;
+}
+
+/// A scene-description file; the first accepted one wins (later lines meet rule 33).
+Step exportFile(Driver& d, const QString& line)
+{
+    bool singleFile = false;
+    const bool accepted = replaceImageOutVars(line, false, d.exportPath, d.takeFound, singleFile);
+    if (d.isVRay && accepted && singleFile)
+        d.isSingleFile = true;
+    return Step::Next;
+}
+
+enum class AovPart { ArnoldFile, RedshiftPrefix, RedshiftSuffix, RedshiftFormat };
+
+/// Per-AOV parameters carry the AOV's number behind their prefix, such as
+/// "RS_aovSuffix_3\t...". Numbers outside 1 to 19 are taken and ignored.
+Step aov(Driver& d, const QString& line, QLatin1String prefix, AovPart part)
+{
+    const int n = intBefore(line.mid(prefix.size()), u'\t');
+    if (n < 1 || n >= Driver::AovSlots)
+        return Step::Next;
+    QString value;
+    switch (part) {
+    case AovPart::ArnoldFile:
+        value = unquotedBracketValue(line);
+        if (value.isEmpty())
+            return Step::Next;
+        d.aovFile[n] = value;
+        break;
+    case AovPart::RedshiftPrefix:
+    case AovPart::RedshiftSuffix:
+        value = bracketValue(line);
+        if (value.startsWith(u'"'))
+            value.remove(0, 1);
+        if (value.endsWith(u'"'))
+            value.chop(1);
+        (part == AovPart::RedshiftPrefix ? d.aovPrefix : d.aovSuffix)[n] = value;
+        break;
+    case AovPart::RedshiftFormat:
+        value = bracketValue(line);
+        value.remove(u'"');
+        d.aovFormat[n] = value;
+        break;
+    }
+    // An AOV written next to the scene ties the render to the scene's folder.
+    if (value.contains(QLatin1String("$HIP"), Qt::CaseInsensitive))
+        HIPFound_DisableLocalScene = true;
+    return Step::Next;
+}
+
+// ---- the rule table --------------------------------------------------------
+
+using Condition = bool (*)(const Driver&);
+using Handler = Step (*)(Driver&, const QString&);
+
+struct Rule
+{
+    int number; ///< the rule's place in the order, for the reader of this table
+    std::array<QLatin1String, 2> keywords; ///< none: any line
+    Condition when; ///< null: always
+    Handler handle; ///< null: the line is taken and ignored
+};
+
+#define KEY(text) QLatin1String(text)
+#define KEYS(a, b)                                                                                 \
+    {                                                                                              \
+        QLatin1String(a), QLatin1String(b)                                                         \
+    }
+#define FLAG_THEN(flag, next)                                                                      \
+    [](Driver& d, const QString& l) {                                                              \
+        d.flag = true;                                                                             \
+        return next(d, l);                                                                         \
+    }
+#define AOV(prefix, part) [](Driver& d, const QString& l) { return aov(d, l, KEY(prefix), part); }
+
+const Rule Rules[] = {
+    { 1, { KEY("trange") }, nullptr, frameRangeMode },
+    { 2, { KEY("f\t") }, [](const Driver&) { return trange; }, frameNumbers },
+    { 3, { KEY("vm_picture\t") }, nullptr, picture },
+    { 4, { KEY("copoutput\t") }, nullptr, picture },
+    { 5, { KEY("ar_picture\t") }, nullptr, FLAG_THEN(isArnold, picture) },
+    { 6, { KEY("RS_outputFileNamePrefix\t") }, nullptr,
+        [](Driver& d, const QString& l) {
+            d.isRedshift = true;
+            d.prependPicture = true;
+            return picture(d, l);
+        } },
+    { 7, { KEY("picture\t") }, nullptr, FLAG_THEN(isPicture, picture) },
+    { 8, { KEY("sopoutput\t") }, nullptr, FLAG_THEN(isGeometry, picture) },
+    { 9, { KEY("file\t") }, nullptr, FLAG_THEN(isGeometry, picture) },
+    { 10, { KEY("filename\t") }, nullptr, FLAG_THEN(isAlembic, picture) },
+    { 11, { KEY("SettingsOutput_img_file_path\t") }, nullptr, FLAG_THEN(isVRay, picture) },
+    { 12, { KEY("outputimage\t") }, nullptr, FLAG_THEN(isUSD, picture) },
+    { 13, KEYS("ri_display_0\t", "ri_display\t"), nullptr, FLAG_THEN(isRenderMan, picture) },
+    { 14, { KEY("take\t") }, nullptr, take },
+    { 15, KEYS("camera\t", "RS_renderCamera\t"), nullptr, camera },
+    { 16, { KEY("RS_outputFileFormat\t") }, nullptr, redshiftExtension },
+    { 17, { KEY("loppath\t") }, nullptr, lopLink },
+    { 18, { KEY("lopoutput\t") }, nullptr, usdOutput },
+    { 19, { KEY("renderer\t") }, nullptr, lopRenderer },
+    { 20, { KEY("soho_outputmode") },
+        [](const Driver& d) { return !d.isArnold && !d.isVRay && !d.isRenderMan && !d.isRedshift; },
+        exportToggle },
+    { 21, { KEY("ar_ass_export_enable\t") },
+        [](const Driver& d) { return !d.isRenderMan && !d.isVRay && !d.isRedshift; },
+        exportToggle },
+    { 22, { KEY("RS_archive_enable\t") },
+        [](const Driver& d) { return !d.isRenderMan && !d.isArnold && !d.isVRay; }, exportToggle },
+    { 23, { KEY("rib_outputmode\t") },
+        [](const Driver& d) { return !d.isArnold && !d.isVRay && !d.isRedshift; }, exportToggle },
+    { 24, { KEY("diskfile\t") },
+        [](const Driver& d) { return !d.isArnold && !d.isVRay && !d.isRedshift; }, exportToggle },
+    { 25, { KEY("render_export_mode\t") }, nullptr, vrayExportMode },
+    { 26, { KEY("fileperframe\t") }, nullptr, filePerFrame },
+    { 27, KEYS("res_override\t", "RS_overrideRes\t"), nullptr, resolution },
+    // The resolution toggle and fraction belong with rule 27 and, like it,
+    // must not be hidden by an export file read earlier (rule 33).
+    { 27, KEYS("override_camerares\t", "RS_overrideCameraRes\t"), nullptr, resolutionToggle },
+    { 27, { KEY("res_fraction\t") }, nullptr, resolutionFraction },
+    { 28, { KEY("ar_aov_separate_file") }, nullptr,
+        AOV("ar_aov_separate_file", AovPart::ArnoldFile) },
+    { 29, { KEY("RS_aovCustomPrefix_") }, nullptr,
+        AOV("RS_aovCustomPrefix_", AovPart::RedshiftPrefix) },
+    { 30, { KEY("RS_aovSuffix_") }, nullptr, AOV("RS_aovSuffix_", AovPart::RedshiftSuffix) },
+    { 31, { KEY("RS_aovFileFormat_") }, nullptr,
+        AOV("RS_aovFileFormat_", AovPart::RedshiftFormat) },
+    // An Alembic driver with these lines reads geometry in rather than writing it.
+    { 32, KEYS("objectPath", "missing_texture_color"), [](const Driver& d) { return d.isAlembic; },
+        [](Driver&, const QString&) { return Step::Abandon; } },
+    // Once a scene-description file is known, later file lines are not read.
+    { 33, {}, [](const Driver& d) { return !d.exportPath.isEmpty(); }, nullptr },
+    { 34, { KEY("soho_diskfile\t") }, nullptr, exportFile },
+    { 35, { KEY("ar_ass_file") }, nullptr, FLAG_THEN(isArnold, exportFile) },
+    { 36, { KEY("RS_archive_file") }, nullptr,
+        [](Driver& d, const QString& l) {
+            d.isRedshift = true;
+            d.prependPicture = true;
+            return exportFile(d, l);
+        } },
+    { 37, { KEY("render_export_filepath") }, nullptr, FLAG_THEN(isVRay, exportFile) },
+};
+
+#undef AOV
+#undef FLAG_THEN
+#undef KEYS
+#undef KEY
+
+/// The rules a line may meet, by its first byte: most lines of a section begin
+/// with a letter no keyword begins with and are done after one look.
+struct RuleIndex
+{
+    sectionLoop::KeywordStarts starts;
+    std::array<std::vector<int>, 256> byFirstByte;
+
+    RuleIndex()
+    {
+        for (int r = 0; r < int(std::size(Rules)); ++r) {
+            const Rule& rule = Rules[r];
+            bool anyKeyword = false;
+            for (QLatin1String keyword : rule.keywords) {
+                if (keyword.isEmpty())
+                    continue;
+                anyKeyword = true;
+                starts.add(keyword);
+            }
+            for (int b = 0; b < 256; ++b) {
+                if (!anyKeyword || b >= 0x80 || mayBegin(rule, static_cast<unsigned char>(b)))
+                    byFirstByte[b].push_back(r);
+            }
+        }
+    }
+
+    static bool mayBegin(const Rule& rule, unsigned char b)
+    {
+        for (QLatin1String keyword : rule.keywords) {
+            if (!keyword.isEmpty()
+                && sectionLoop::asciiLower(static_cast<unsigned char>(keyword.front().toLatin1()))
+                    == sectionLoop::asciiLower(b))
+                return true;
+        }
+        return false;
+    }
+};
+
+bool takes(const Rule& rule, const Driver& d, const sectionLoop::SectionLine& line)
+{
+    if (rule.when && !rule.when(d))
+        return false;
+    if (rule.keywords[0].isEmpty())
+        return true;
+    for (QLatin1String keyword : rule.keywords) {
+        if (!keyword.isEmpty() && line.startsWith(keyword))
+            return true;
+    }
+    return false;
+}
+
+/// "out/mantra1.parm {" gives "/out/mantra1": the text from the first network
+/// prefix found ("out/", then "stage/", "img/", "obj/") up to ".parm".
+QString driverPathOf(const QString& header)
+{
+    QString path = header;
+    for (const char* network : { "out/", "stage/", "img/", "obj/" }) {
+        const qsizetype at = path.indexOf(QLatin1String(network));
+        if (at >= 0) {
+            path.remove(0, at);
+            break;
+        }
+    }
+    const qsizetype parm = path.indexOf(QLatin1String(".parm"));
+    if (parm >= 0)
+        path.truncate(parm);
+    return u'/' + path;
+}
+
+} // namespace
+
+LoadResult loadOutNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& line,
+    bool& takeFound, const int& houdiniMajor, const QString& houdiniMinorForReaders)
+{
+    if (!data || !data->jobs)
+        return LoadNoJobRecord;
+    if (data->jobs->count > MaxJobsBeforeDriver)
+        return LoadOk;
+
+    trange = false;
+    seqStart = GLseqStart;
+    seqEnd = GLseqEnd;
+    seqStep = 1;
+    Driver d(*data, takeFound, houdiniMajor, houdiniMinorForReaders);
+    d.path = driverPathOf(line);
+
+    static const RuleIndex index;
+    const sectionLoop::SectionEnd end
+        = sectionLoop::readSection(in, line, index.starts, [&](const sectionLoop::SectionLine& l) {
+              for (const int r : index.byFirstByte[l.firstByte()]) {
+                  const Rule& rule = Rules[r];
+                  if (takes(rule, d, l))
+                      return !rule.handle || rule.handle(d, l.text()) == Step::Next;
+              }
+              return true;
+          });
+    if (end != sectionLoop::SectionEnd::Closed)
+        return LoadOk;
+    return makeDriverJobs(d);
 }

@@ -84,8 +84,8 @@ struct ReaderCall
 };
 
 QList<ReaderCall> calls;
-int outNodeResult = 1;
-int usdResult = 1;
+LoadResult outNodeResult = LoadOk;
+LoadResult usdResult = LoadOk;
 bool outNodeSetsTake = false;
 int seenMajor = 0;
 QString seenMinor;
@@ -96,8 +96,8 @@ void record(SectionKind kind, LineSource& in, QString& header)
     QString first;
     in.next(first);
     calls.append({ kind, original, first });
-    if (first != u'}')
-        skipSection(in, header);
+    while (!first.startsWith(u'}') && in.next(first)) { }
+    header = first;
 }
 
 bool fakeWedge(zkP::_dataPARS_LoadSceneFile*, LineSource& in, QString& header)
@@ -118,13 +118,13 @@ bool fakeLop(zkP::_dataPARS_LoadSceneFile*, LineSource& in, QString& header)
     return false;
 }
 
-int fakeUsd(zkP::_dataPARS_LoadSceneFile*, LineSource& in, QString& header)
+LoadResult fakeUsd(zkP::_dataPARS_LoadSceneFile*, LineSource& in, QString& header)
 {
     record(SectionKind::UsdRenderSettings, in, header);
     return usdResult;
 }
 
-int fakeOut(zkP::_dataPARS_LoadSceneFile*, LineSource& in, QString& header, bool& takeFound,
+LoadResult fakeOut(zkP::_dataPARS_LoadSceneFile*, LineSource& in, QString& header, bool& takeFound,
     const int& major, const QString& minor)
 {
     record(SectionKind::OutNode, in, header);
@@ -142,8 +142,8 @@ protected:
     {
         resetParserState();
         calls.clear();
-        outNodeResult = 1;
-        usdResult = 1;
+        outNodeResult = LoadOk;
+        usdResult = LoadOk;
         outNodeSetsTake = false;
         readers.wedge = fakeWedge;
         readers.camera = fakeCamera;
@@ -370,14 +370,14 @@ TEST_F(Scanner, ReaderResultsEndTheScan)
 {
     const char* scene = "out/a.parm {\n}\nstage/rendersettings1.parm {\n}\nout/b.parm {\n}\n"
                         "frange 7 8\n";
-    outNodeResult = 7;
+    outNodeResult = LoadNoJobRecord;
     ScanResult result = scan(scene);
     EXPECT_EQ(result.result, 7);
     EXPECT_EQ(calls.size(), 1);
     EXPECT_EQ(GLseqStart, 1);
 
     SetUp();
-    usdResult = 25;
+    usdResult = static_cast<LoadResult>(25);
     result = scan(scene);
     EXPECT_EQ(result.result, 25);
     EXPECT_EQ(calls.size(), 2);

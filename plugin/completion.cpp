@@ -1,0 +1,219 @@
+#include "completion.h"
+
+#include "plugin/parserState.h"
+
+#include <algorithm>
+#include <climits>
+#include <cmath>
+
+namespace {
+
+/// A renderer's version as the submitter or the scene gives it.
+struct RendererVersion
+{
+    int major = 0;
+    QString minor;
+
+    /// "7.1.4.1" gives 7 and "1.4.1"; "7" gives 7 and keeps the minor text.
+    void parse(const QString& text)
+    {
+        const qsizetype dot = text.indexOf(u'.');
+        if (dot < 0) {
+            major = text.toInt();
+            return;
+        }
+        major = QStringView(text).left(dot).toInt();
+        minor = text.mid(dot + 1);
+    }
+
+    /// A version above 0 replaces the job's Houdini version.
+    void applyTo(zkRA::_RenderAppBasic& app) const
+    {
+        if (major <= 0)
+            return;
+        app.versionMajor = static_cast<short>(major);
+        app.setVersionMinor(minor);
+    }
+};
+
+struct RendererVersions
+{
+    RendererVersion arnold;
+    RendererVersion redshift;
+    RendererVersion vray;
+    RendererVersion renderman;
+};
+
+/// "HtoA_KickVersion" of the scene, then the submitter's overrides: the last
+/// one given wins, and an override without a value behind it is ignored.
+RendererVersions rendererVersions(const QStringList& arguments)
+{
+    RendererVersions v;
+    for (const _namevalue& variable : qAsConst(hVariables)) {
+        if (variable.name.compare(QLatin1String("HtoA_KickVersion"), Qt::CaseInsensitive) == 0)
+            v.arnold.parse(variable.value);
+    }
+    const struct
+    {
+        const char* argument;
+        RendererVersion RendererVersions::*version;
+    } overrides[] = {
+        { "-customRenVer_Arnold", &RendererVersions::arnold },
+        { "-customRenVer_Redshift", &RendererVersions::redshift },
+        { "-customRenVer_VRay", &RendererVersions::vray },
+        { "-customRenVer_prman", &RendererVersions::renderman },
+    };
+    for (qsizetype i = 0; i + 1 < arguments.size(); ++i) {
+        for (const auto& o : overrides) {
+            if (arguments[i].compare(QLatin1String(o.argument), Qt::CaseInsensitive) == 0)
+                (v.*o.version).parse(arguments[i + 1]);
+        }
+    }
+    return v;
+}
+
+/// What the next job needs of the job before it: an export job's output is
+/// the scene its render job reads.
+struct PreviousJob
+{
+    QString imagePath;
+    QString extension;
+    bool singleFile = false;
+    int padding = 4;
+
+    /// The export's files as a scene name, with a "<FN4>"-style frame token
+    /// unless they are one file.
+    QString sceneName(bool frameTokenAlways) const
+    {
+        if (singleFile && !frameTokenAlways)
+            return imagePath + extension;
+        return imagePath + QStringLiteral("<FN%1>").arg(padding) + extension;
+    }
+};
+
+void completeApplication(zkJ::_JobBasics_largePath& job, const PreviousJob& previous,
+    const LoadContext& ctx, const ScanResult& scan, const RendererVersions& versions)
+{
+    zkRA::_RenderAppBasic& app = job.renderApp;
+    const QString appName = app.appName.toQString();
+    if (appName == appNameHoudini) {
+        job.renderLicenses.set(appNameHoudini);
+        job.sceneName.set(ctx.scenePath);
+        return;
+    }
+    if (appName == appNameMantra) {
+        job.renderLicenses.set(appNameMantra);
+        app.rendererName.clear();
+        job.sceneName.set(previous.sceneName(true));
+        return;
+    }
+    job.renderLicenses.clear();
+    const bool usd = appName == appNameUSD || appName == appNameUSDsingle;
+    if (!usd) {
+        app.rendererName.set(appNameHoudini_Archive);
+        app.rendererVersion.set(scan.houdiniVersion);
+    }
+    job.sceneName.set(previous.sceneName(false));
+    if (appName == appNameArnold || appName == appNameArnold_singlefile) {
+        app.rendererName.setLatin1("HtoA");
+        versions.arnold.applyTo(app);
+    } else if (appName == appNameRenderman) {
+        versions.renderman.applyTo(app);
+    } else if (appName == appNameRedshift) {
+        versions.redshift.applyTo(app);
+    } else if (appName == appNameVRay) {
+        if (!previous.singleFile)
+            app.rendererName.setLatin1("multifile");
+        versions.vray.applyTo(app);
+    }
+}
+
+/// Compressed scene descriptions: the export writes ".gz" files and the
+/// Mantra job that reads them says so in its renderer name.
+void compressExport(zkJ::_JobBasics_largePath& job)
+{
+    if (job.renderApp.rendererName.view() == u"createIFD") {
+        job.renderApp.rendererName.setLatin1("createIFDzip");
+        job.imageExtension.append(u".gz");
+    } else if (job.renderApp.appName.view() == appNameMantra) {
+        job.renderApp.rendererName.setLatin1("zip");
+        job.sceneName.append(u".gz");
+    }
+}
+
+/// The camera a driver renders through gives the job its name, the size the
+/// driver left open and, for a stereo rig, the eye tokens.
+void completeCamera(zkJ::_JobBasics_largePath& job)
+{
+    const QString layer = job.layer.toQString();
+    const int index = camList.findCamIndexByRenderNode(layer);
+    if (index < 0)
+        return;
+    const _camNode& cam = camList.list.at(index);
+    job.camera.set(cam.name.toQString());
+    const double fraction = nodeResFractions.value(layer, 1.0);
+    const auto scaled = [fraction](int size) {
+        // Halves round away from zero; the field keeps the low 16 bits.
+        const double v = std::clamp(std::round(size * fraction), double(INT_MIN), double(INT_MAX));
+        return static_cast<unsigned short>(static_cast<int>(v));
+    };
+    if (job.imageWidth == 0 && cam.resX != 0)
+        job.imageWidth = scaled(cam.resX);
+    if (job.imageHeight == 0 && cam.resY != 0)
+        job.imageHeight = scaled(cam.resY);
+    // An export writes scene descriptions, not the eyes' images.
+    if (cam.isStereo && !job.renderApp.rendererName.view().contains(u"create")) {
+        job.imageFileName.append(u"<Stereo>");
+        job.imageStereoL.setLatin1("_left");
+        job.imageStereoR.setLatin1("_right");
+    }
+}
+
+} // namespace
+
+LoadResult completeJobs(const LoadContext& ctx, const ScanResult& scan)
+{
+    zkJ::_JobBasicsArray& jobs = *ctx.data->jobs;
+    if (HIPFound_DisableLocalScene)
+        jobs.arrayText.append(u" \"AllowLocalSceneCopy=0~0\"");
+    if (mantraIFDJob)
+        jobs.arrayText.append(u" -NoSceneExistCheck ");
+
+    // Longer names first, so "$SHOTDIR" is not taken for "$SHOT" followed by "DIR".
+    std::stable_sort(hVariables.begin(), hVariables.end(),
+        [](const _namevalue& a, const _namevalue& b) { return a.name.size() > b.name.size(); });
+
+    const RendererVersions versions = rendererVersions(ctx.arguments);
+    PreviousJob previous;
+    for (int i = 0; i < jobs.count; ++i) {
+        zkJ::_JobBasics_largePath* job = jobs.at(i);
+        if (!job)
+            return LoadNoJobRecord;
+        job->renderApp.versionMajor = static_cast<short>(scan.houdiniMajor);
+        job->renderApp.setVersionMinor(scan.houdiniMinorForJobs);
+        for (const _namevalue& variable : qAsConst(hVariables)) {
+            if (variable.name.compare(QLatin1String("JOB"), Qt::CaseInsensitive) == 0)
+                job->customDataSet_Str(QStringLiteral("HoudiniJob"), variable.value);
+        }
+        completeApplication(*job, previous, ctx, scan, versions);
+        if (jobs.count <= 2)
+            job->auxByte3 = 1;
+
+        _zkString<1000> imagePath = job->imageDir;
+        imagePath.append(job->imageFileName.view());
+        previous.imagePath = imagePath.toQString();
+        previous.extension = job->imageExtension.toQString();
+        previous.singleFile = job->imageSingleOutputFile;
+        previous.padding = job->padding;
+
+        if (scan.compressedExportSwitch)
+            compressExport(*job);
+    }
+    for (int i = 0; i < jobs.count; ++i) {
+        zkJ::_JobBasics_largePath* job = jobs.at(i);
+        if (!job)
+            return LoadNoJobRecord;
+        completeCamera(*job);
+    }
+    return LoadOk;
+}

@@ -1,0 +1,206 @@
+// One job per take and per wedge variant. Copies are appended to the host's
+// job array like every other job, so its record cap ends a runaway fan-out.
+#include "completion.h"
+#include "plugin/jobCopy.h"
+#include "plugin/parserState.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <tuple>
+#include <vector>
+
+namespace {
+
+/// The wedge tokens of paths, in the order they are replaced: the longer
+/// names before their prefixes.
+const QString WedgeNumBraced = QStringLiteral("${WEDGENUM}");
+const QString WedgeNum = QStringLiteral("$WEDGENUM");
+const QString WedgeBraced = QStringLiteral("${WEDGE}");
+const QString Wedge = QStringLiteral("$WEDGE");
+
+/// Applies \p edit to the paths that can carry wedge tokens: the image
+/// output, and the scene a render job reads (an export's path often holds
+/// "$WEDGENUM").
+template <typename Edit>
+void editWedgePaths(zkJ::_JobBasics_largePath& job, Edit&& edit)
+{
+    for (_zkString<1000>* field : { &job.imageDir, &job.imageFileName, &job.sceneName }) {
+        if (!field->view().contains(Wedge))
+            continue;
+        QString text = field->toQString();
+        edit(text);
+        field->set(text);
+    }
+}
+
+void removeWedgeTokens(zkJ::_JobBasics_largePath& job)
+{
+    editWedgePaths(job, [](QString& text) {
+        for (const QString* token : { &WedgeNumBraced, &WedgeNum, &WedgeBraced, &Wedge })
+            text.remove(*token);
+    });
+}
+
+/// Appends a copy of job \p source; null when the array gives no record.
+zkJ::_JobBasics_largePath* appendCopy(zkJ::_JobBasicsArray& jobs, int source)
+{
+    zkJ::_JobBasics_largePath* copy = nullptr;
+    if (!jobs.getNewJob(copy))
+        return nullptr;
+    // Growing the array may have moved every record.
+    const zkJ::_JobBasics_largePath* from = jobs.at(source);
+    if (!from)
+        return nullptr;
+    copyJob(*copy, *from);
+    return copy;
+}
+
+/// The entry of \p takes equal to \p name ignoring case, or null.
+const QString* findTake(const QStringList& takes, const QString& name)
+{
+    for (const QString& take : takes) {
+        if (take.compare(name, Qt::CaseInsensitive) == 0)
+            return &take;
+    }
+    return nullptr;
+}
+
+/// Every job renders the scene's first take unless its driver names one of
+/// its own; the jobs of drivers without a take of their own are copied once
+/// per further take.
+LoadResult fanOutTakes(zkJ::_JobBasicsArray& jobs, const QStringList& takes)
+{
+    const int n = jobs.count;
+    std::vector<int> everyTake; // jobs whose drivers name no take the scene has
+    for (int j = 0; j < n; ++j) {
+        zkJ::_JobBasics_largePath* job = jobs.at(j);
+        if (!job)
+            return LoadNoJobRecord;
+        QString& driverTake = nodeActiveTakes[job->layer.toQString()];
+        job->channel.set(takes.first());
+        if (!driverTake.isEmpty()) {
+            if (const QString* take = findTake(takes, driverTake))
+                job->channel.set(*take);
+            else
+                driverTake.clear(); // a take the scene does not have: render them all
+        }
+        if (driverTake.isEmpty())
+            everyTake.push_back(j);
+    }
+    // Each further take copies at least one job, so the job array's cap also
+    // bounds this loop for a scene with a huge take list.
+    for (int t = 1; t < takes.size() && !everyTake.empty(); ++t) {
+        for (const int j : everyTake) {
+            zkJ::_JobBasics_largePath* copy = appendCopy(jobs, j);
+            if (!copy)
+                return LoadNoJobRecord;
+            copy->channel.set(takes.at(t));
+            // 8-bit arithmetic: t x n wraps like the fields it is added to.
+            const auto shift = static_cast<unsigned char>((t % 256) * (n % 256));
+            copy->preID = static_cast<unsigned char>(copy->preID + shift);
+            if (copy->waitForPreIDs[0] != 0)
+                copy->waitForPreIDs[0] = static_cast<unsigned char>(copy->waitForPreIDs[0] + shift);
+        }
+    }
+    return LoadOk;
+}
+
+/// Copies the jobs of wedged drivers once per variant. A copy that waits
+/// waits for the copy of its export made for the same wedge and variant, so
+/// each variant renders the scene files written for it.
+LoadResult fanOutWedges(zkJ::_JobBasicsArray& jobs)
+{
+    const int m = jobs.count;
+    int counter = m;
+    for (int j = 0; j < m; ++j) {
+        const zkJ::_JobBasics_largePath* job = jobs.at(j);
+        if (!job)
+            return LoadNoJobRecord;
+        // A driver with its own take was not copied per take, which leaves
+        // preIDs above m; the wedge copies must not repeat them.
+        counter = std::max(counter, int(job->preID));
+    }
+
+    // The job a waiting copy's source waits for: the first with that preID.
+    std::array<int, 256> firstWithPreID;
+    firstWithPreID.fill(-1);
+    for (int e = m - 1; e >= 0; --e)
+        firstWithPreID[jobs.at(e)->preID] = e;
+    // preID of the copy of job j made for wedge w and variant k.
+    std::map<std::tuple<int, int, int>, unsigned char> copies;
+    for (int j = 0; j < m; ++j) {
+        for (int w = 0; w < wedges.size(); ++w) {
+            _wedgeNode& wedge = wedges[w];
+            const zkJ::_JobBasics_largePath* source = jobs.at(j);
+            if (!source)
+                return LoadNoJobRecord;
+            if (wedge.driver != source->layer.view())
+                continue;
+            const int total = wedge.totalWedges();
+            for (int k = 0; k < total; ++k) {
+                zkJ::_JobBasics_largePath* copy = appendCopy(jobs, j);
+                if (!copy)
+                    return LoadNoJobRecord;
+                copy->sceneState.set(wedge.nodePath + u'*' + QString::number(k));
+                const QString number = QString::number(k);
+                const QString name = wedge.getWedgeFileName(k);
+                editWedgePaths(*copy, [&](QString& text) {
+                    text.replace(WedgeNumBraced, number);
+                    text.replace(WedgeNum, number);
+                    text.replace(WedgeBraced, name);
+                    text.replace(Wedge, name);
+                });
+                ++counter;
+                copy->preID = static_cast<unsigned char>(counter);
+                copies[{ j, w, k }] = copy->preID;
+                const unsigned char waitsFor = copy->waitForPreIDs[0];
+                if (waitsFor == 0)
+                    continue;
+                const auto found = copies.find({ firstWithPreID[waitsFor], w, k });
+                if (found != copies.end())
+                    copy->waitForPreIDs[0] = found->second;
+            }
+        }
+        zkJ::_JobBasics_largePath* job = jobs.at(j);
+        if (!job)
+            return LoadNoJobRecord;
+        job->auxByte3 = 0;
+        removeWedgeTokens(*job);
+    }
+    return LoadOk;
+}
+
+} // namespace
+
+LoadResult fanOutJobs(const LoadContext& ctx, const ScanResult& scan)
+{
+    zkJ::_JobBasicsArray& jobs = *ctx.data->jobs;
+    // With the take flag but no take in the scene there is no take to name.
+    if ((scan.takes.size() > 1 || scan.takeFound) && !scan.takes.isEmpty()) {
+        const LoadResult result = fanOutTakes(jobs, scan.takes);
+        if (result != LoadOk)
+            return result;
+    }
+    if (emptyNodesfound && jobs.count == 0)
+        return LoadOnlyEmptyDrivers;
+    if (!wedges.isEmpty())
+        return fanOutWedges(jobs);
+    for (int i = 0; i < jobs.count; ++i) {
+        zkJ::_JobBasics_largePath* job = jobs.at(i);
+        if (!job)
+            return LoadNoJobRecord;
+        removeWedgeTokens(*job);
+    }
+    return LoadOk;
+}
+
+LoadResult finishLoad(const LoadContext& ctx, const ScanResult& scan)
+{
+    if (scan.result != LoadOk)
+        return scan.result;
+    const LoadResult result = completeJobs(ctx, scan);
+    if (result != LoadOk)
+        return result;
+    return fanOutJobs(ctx, scan);
+}

@@ -1,0 +1,282 @@
+#include "outNodeJobs.h"
+
+#include "jobs/ZK_DataTypes_jobs_defines.h"
+#include "plugin/jobCopy.h"
+#include "plugin/parserState.h"
+#include "plugin/paths/houdiniVariables.h"
+#include "plugin/paths/imageTokens.h"
+#include "shared/zkShared.h"
+
+#include <cmath>
+
+namespace {
+
+const QString SimulationOptions = QStringLiteral(
+    " \"RenderPreviewFirst=0~0\" \"DistributeStartToEnd=0~1\" \"MaxClientsAtATime=0~1\" "
+    "\"SeqDivMIN=0~0\"");
+const char* const LocalRenderOutOption = " \"AllowLocalRenderOut=0~0\"";
+
+/// "ip" renders to Houdini's interactive viewer: nothing a farm could write.
+bool isUsableOutput(const QString& path)
+{
+    return !path.isEmpty() && path != QLatin1String("ip");
+}
+
+void removeBraces(QString& path)
+{
+    path.remove(u'{');
+    path.remove(u'}');
+}
+
+/// "$AOV." and its kin become the job token the host fills per channel.
+void markAovTokens(QString& path)
+{
+    for (const char* token : { "$AOV.", "$AOV/", "$AOV_" }) {
+        const QString plain = QLatin1String(token);
+        path.replace(plain, QStringLiteral("<ValueVar @") + plain + u'>');
+    }
+}
+
+/// Redshift AOVs give a prefix, suffix and format instead of a file name;
+/// each AOV file's first frame token becomes a printf placeholder.
+void composeAovFiles(Driver& d)
+{
+    for (int n = 0; n < Driver::AovSlots; ++n) {
+        if (!d.aovPrefix[n].isEmpty() || !d.aovSuffix[n].isEmpty()) {
+            const QLatin1String aovToken("$AOV");
+            const bool hasToken
+                = d.imagePath.contains(aovToken) || d.aovPrefix[n].contains(aovToken);
+            if (d.aovPrefix[n].isEmpty())
+                d.aovPrefix[n]
+                    = zkGetDirName(d.imagePath, u'/') + zkGetFileNameBase(d.imagePath, u'/');
+            if (hasToken) {
+                d.aovFile[n] = d.aovPrefix[n] + d.aovFormat[n];
+                d.aovFile[n].replace(aovToken, d.aovSuffix[n]);
+            } else {
+                d.aovFile[n] = d.aovPrefix[n] + u'.' + d.aovSuffix[n] + d.aovFormat[n];
+            }
+            d.aovPrefix[n].clear();
+            d.aovSuffix[n].clear();
+            d.aovFormat[n].clear();
+        }
+        convertFirstDollarF(d.aovFile[n]);
+    }
+}
+
+/// The AOV files go into the job's channel slots in AOV order, expanded like
+/// the image path; each is used once (an export pair's render job gets them).
+void writeAovChannels(Driver& d, zkJ::_JobBasics_largePath& job, const _zkString<500>& scene)
+{
+    int slot = 0;
+    for (QString& file : d.aovFile) {
+        if (file.isEmpty())
+            continue;
+        job.channels[slot++].fileName.set(replaceHoudiniVariables(file, &job, hVariables, scene));
+        file.clear();
+    }
+}
+
+/// The first LOP entry that lists the driver among its render nodes, or null.
+const _LOPNode* linkedLop(const Driver& d)
+{
+    const int index = LOPList.findLOPIndexByRenderNode(d.path);
+    return index < 0 ? nullptr : &LOPList.list.at(index);
+}
+
+QString renderRendererName(const Driver& d, zkJ::_JobBasics_largePath& job)
+{
+    if (d.isUSD) {
+        const _LOPNode* lop = linkedLop(d);
+        return lop ? lop->rendererName_render() : QString();
+    }
+    if (d.isArnold)
+        return QStringLiteral("arnold");
+    if (d.isPicture)
+        return QStringLiteral("opengl");
+    if (d.isGeometry)
+        return QStringLiteral("geometry");
+    if (d.isRedshift)
+        return QStringLiteral("redshift");
+    if (d.isRenderMan)
+        return QStringLiteral("prman");
+    if (d.isAlembic) {
+        if (!d.isSingleFile)
+            return QStringLiteral("alembic");
+        job.imageSingleOutputFile = true;
+        return QStringLiteral("alembic-singleFile");
+    }
+    if (d.isVRay)
+        return QStringLiteral("vray");
+    return QString();
+}
+
+/// The export job's renderer name. A USD export of a Redshift render
+/// delegate that writes ".rs" files is a Redshift proxy export from here on.
+void setExportRenderer(Driver& d, zkJ::_JobBasics_largePath& job, zkJ::_JobBasicsArray& jobs)
+{
+    _zkString<25>& name = job.renderApp.rendererName;
+    if (d.isUSD) {
+        const _LOPNode* lop = linkedLop(d);
+        name.set(lop ? lop->rendererName_create() : QStringLiteral("createUSD"));
+        if (name.indexOf(_zkString<25>("redshift"), 0) >= 0
+            && d.exportPath.endsWith(QLatin1String(".rs"))) {
+            d.prependPicture = true;
+            jobs.arrayText.append(QString::fromLatin1(LocalRenderOutOption));
+            d.isRedshift = true;
+            d.isUSD = false;
+        }
+        if (d.isSingleFile)
+            job.imageSingleOutputFile = true;
+    }
+    if (d.isUSD)
+        return;
+    if (d.isArnold)
+        name.setLatin1("createASS");
+    else if (d.isRedshift)
+        name.setLatin1("createRS");
+    else if (d.isRenderMan)
+        name.setLatin1("createRIB");
+    else if (d.isVRay) {
+        name.setLatin1("createVrScene");
+        if (d.isSingleFile)
+            job.imageSingleOutputFile = true;
+    } else
+        name.setLatin1("createIFD");
+}
+
+/// The stand-alone renderer that renders an export's files.
+const QString& renderApplication(const Driver& d, bool exportIsSingleFile, const _LOPNode* lop)
+{
+    if (d.isUSD) {
+        if (lop && lop->renderer == QLatin1String("arnold"))
+            return exportIsSingleFile ? appNameArnold_singlefile : appNameArnold;
+        return exportIsSingleFile ? appNameUSDsingle : appNameUSD;
+    }
+    if (d.isArnold)
+        return appNameArnold;
+    if (d.prependPicture)
+        return appNameRedshift;
+    if (d.isRenderMan)
+        return appNameRenderman;
+    if (d.isVRay)
+        return appNameVRay;
+    return appNameMantra;
+}
+
+/// The render job of an export pair: a copy of the export job that renders
+/// the driver's images and waits for the export.
+LoadResult makeRenderJob(Driver& d, zkJ::_JobBasicsArray& jobs, const _zkString<500>& scene)
+{
+    mantraIFDJob = true;
+    zkJ::_JobBasics_largePath* job = nullptr;
+    if (!jobs.getNewJob(job))
+        return LoadNoJobRecord;
+    // Growing the array may have moved the export job.
+    const zkJ::_JobBasics_largePath* exportJob = jobs.at(jobs.count - 2);
+    if (!exportJob)
+        return LoadNoJobRecord;
+    copyJob(*job, *exportJob);
+    job->preID = static_cast<unsigned char>(jobs.count);
+    job->waitForPreIDs[0] = static_cast<unsigned char>(jobs.count - 1);
+    job->waitForPreIDCount = 1;
+    job->imageSingleOutputFile = false;
+    job->imageDir.clear();
+    job->imageExtension.clear();
+    job->imageFileName.set(replaceHoudiniVariables(d.imagePath, job, hVariables, scene));
+
+    const _LOPNode* lop = d.isUSD ? linkedLop(d) : nullptr;
+    job->renderApp.appName.set(renderApplication(d, exportJob->imageSingleOutputFile, lop));
+    if (d.isUSD)
+        job->renderApp.rendererName.set(lop ? lop->renderer : QString());
+    writeAovChannels(d, *job, scene);
+    job->splitImageFileInto_DirFileExt(true);
+    return LoadOk;
+}
+
+/// The size written into the job. A driver whose toggle leaves the size to the
+/// camera gets 0 here, and a fraction of the camera's size remembered for the
+/// completion pass when it asks for one.
+void applyResolution(const Driver& d, zkJ::_JobBasics_largePath& job, const QString& layerKey)
+{
+    const bool ownSize = d.resToggle == Driver::Toggle::Absent
+        || (d.resToggle == Driver::Toggle::On && d.resFraction <= 0);
+    if (ownSize) {
+        job.imageWidth = static_cast<unsigned short>(d.overrideResX);
+        job.imageHeight = static_cast<unsigned short>(d.overrideResY);
+    }
+    if (d.resToggle == Driver::Toggle::On && d.resFraction > 0)
+        nodeResFractions.insert(layerKey, d.resFraction);
+    else
+        nodeResFractions.remove(layerKey);
+}
+
+} // namespace
+
+LoadResult makeDriverJobs(Driver& d)
+{
+    if (d.path.contains(QLatin1String("/karma"))) {
+        // A Karma driver is its own LOP node: its renderer comes from its name.
+        _LOPNode own;
+        own.nodePath = d.path;
+        own.imageOut = d.imagePath;
+        own.imageUsesTake = d.takeFound;
+        LOPList.addLOP(own);
+        LOPList.addLOPFromOutNode(d.path, d.path);
+        d.isUSD = true;
+        d.isPicture = false;
+    }
+    if (!isUsableOutput(d.imagePath) || (d.exportMode && !isUsableOutput(d.exportPath))) {
+        emptyNodesfound = true;
+        return LoadOk;
+    }
+
+    zkJ::_JobBasicsArray& jobs = *d.data.jobs;
+    const _zkString<500> noScene;
+    const _zkString<500>& scene = d.data.sceneFile ? *d.data.sceneFile : noScene;
+    zkJ::_JobBasics_largePath* job = nullptr;
+    if (!jobs.getNewJob(job))
+        return LoadNoJobRecord;
+    const int firstIndex = jobs.count - 1;
+
+    job->renderApp.appName.set(appNameHoudini);
+    job->sceneDatabaseDir.set(DatabaseDir);
+    job->seqStart = seqStart;
+    job->seqEnd = seqEnd;
+    job->seqStep = static_cast<unsigned short>(seqStep);
+    job->layer.set(d.path);
+    const QString layerKey = job->layer.toQString();
+    applyResolution(d, *job, layerKey);
+    job->customDataSet_Str(QStringLiteral("zkSubmitterPluginVersion"), QLatin1String(zkVersion));
+
+    removeBraces(d.imagePath);
+    removeBraces(d.exportPath);
+    composeAovFiles(d);
+    nodeActiveTakes.insert(layerKey, d.takeName);
+    markAovTokens(d.imagePath);
+    markAovTokens(d.exportPath);
+
+    if (!d.exportMode) {
+        job->imageFileName.set(d.imagePath);
+        job->renderApp.rendererName.set(renderRendererName(d, *job));
+        writeAovChannels(d, *job, scene);
+    } else {
+        job->imageFileName.set(d.exportPath);
+        setExportRenderer(d, *job, jobs);
+    }
+    job->imageFileName.set(
+        replaceHoudiniVariables(job->imageFileName.toQString(), job, hVariables, scene));
+    job->splitImageFileInto_DirFileExt(true);
+    job->preID = static_cast<unsigned char>(jobs.count);
+
+    if (d.exportMode && !d.proxyCamera) {
+        const LoadResult result = makeRenderJob(d, jobs, scene);
+        if (result != LoadOk)
+            return result;
+    }
+
+    // Simulations run best on one machine from start to end.
+    zkJ::_JobBasics_largePath* first = jobs.at(firstIndex);
+    if (first && first->layer.indexOf(_zkString<150>("_sim_"), 0) >= 0)
+        first->customDataSet_Str(zkJ::CUSTOMSubmitterParameter, SimulationOptions);
+    return LoadOk;
+}

@@ -1,0 +1,62 @@
+// What the output-driver reader learns from one section, and how that
+// becomes the driver's jobs once the section's "}" is read.
+#pragma once
+
+#include "plugin/loadResult.h"
+#include "plugin/zkPluginRecords.h"
+
+#include <QString>
+
+/// One output driver as its section has described it so far.
+struct Driver
+{
+    static constexpr int AovSlots = 20; ///< index 0 stays empty; AOVs are numbered 1 to 19
+
+    Driver(zkP::_dataPARS_LoadSceneFile& record, bool& take, int major, const QString& minor)
+        : data(record)
+        , takeFound(take)
+        , houdiniMajor(major)
+        , houdiniMinorText(minor)
+    { }
+
+    zkP::_dataPARS_LoadSceneFile& data;
+    /// The scene-wide take flag: an image path that names the active take sets it.
+    bool& takeFound;
+    const int houdiniMajor;
+    const QString& houdiniMinorText;
+
+    QString path; ///< node path such as "/out/mantra1"; the jobs' layer
+    QString imagePath;
+    QString exportPath; ///< scene-description file of an export
+    QString takeName;
+    bool exportMode = false;
+    bool isSingleFile = false; ///< one output file for the whole frame range
+    bool proxyCamera = false; ///< a Redshift proxy export: no render job
+    int overrideResX = 0;
+    int overrideResY = 0;
+
+    /// The last "override_camerares" line: whether the driver's own size counts.
+    enum class Toggle { Absent, Off, On } resToggle = Toggle::Absent;
+    /// The last "res_fraction" line as a number above 0, else 0.
+    double resFraction = 0.0;
+
+    QString aovFile[AovSlots];
+    QString aovPrefix[AovSlots];
+    QString aovSuffix[AovSlots];
+    QString aovFormat[AovSlots];
+
+    bool isArnold = false;
+    bool isRedshift = false;
+    bool prependPicture = false; ///< Redshift: picture values go in front of the path
+    bool isVRay = false;
+    bool isRenderMan = false;
+    bool isUSD = false;
+    bool isPicture = false;
+    bool isGeometry = false;
+    bool isAlembic = false;
+};
+
+/// The end of a driver's section: its own LOP entry for a Karma driver, then
+/// the job (or export and render jobs). LoadNoJobRecord when the job array
+/// gives no record; a driver without a usable output makes no job.
+LoadResult makeDriverJobs(Driver& d);
