@@ -1,0 +1,6 @@
+set -g _HIP_SAVEVERSION = '18.0.566'
+out/u_on.parm {
+outputimage	[ 0	locks=0 ]	(	"$HIP/render/on.$F4.exr"	)
+lopoutput	[ 0	locks=0 ]	(	"$HIP/usd/on.usd"	)
+fileperframe	[ 0	locks=0 ]	(	"on"	)
+}
