@@ -24,3 +24,10 @@ camera	[ 0	locks=0 ]	(	proxy_export_cam1	)
 soho_outputmode	[ 0	locks=0 ]	(	"on"	)
 soho_diskfile	[ 0	locks=0 ]	(	"$HIP/ifd/x.$F4.ifd"	)
 }
+out/c_late.parm {
+vm_picture	[ 0	locks=0 ]	(	"$HIP/render/l.$F4.exr"	)
+camera	[ 0	locks=0 ]	(	/obj/cam_late	)
+}
+obj/cam_late.parm {
+res	[ 0	locks=0 ]	(	640	360	)
+}

@@ -16,3 +16,9 @@ RS_archive_enable	[ 0	locks=0 ]	(	"on"	)
 ar_ass_export_enable	[ 0	locks=0 ]	(	"off"	)
 RS_archive_file	[ 0	locks=0 ]	(	"$HIP/rs/rs1.$F4.rs"	)
 }
+out/arnold_rsoff.parm {
+ar_picture	[ 0	locks=0 ]	(	"$HIP/render/rsoff.$F4.exr"	)
+ar_ass_export_enable	[ 0	locks=0 ]	(	"on"	)
+RS_archive_enable	[ 0	locks=0 ]	(	"off"	)
+ar_ass_file	[ 0	locks=0 ]	(	"$HIP/ass/rsoff.$F4.ass"	)
+}
