@@ -3,7 +3,7 @@ out/Redshift_ROP1.parm {
 RS_outputFileNamePrefix	[ 0	locks=0 ]	(	"$HIP/render/$AOV/beauty_$F4"	)
 RS_aovSuffix_1	[ 0	locks=0 ]	(	"diffuse"	)
 RS_aovFileFormat_1	[ 0	locks=0 ]	(	".exr"	)
-RS_aovCustomPrefix_2	[ 0	locks=0 ]	(	"$HIP/aov/$AOV/spec_$F4"	)
+RS_aovCustomPrefix_2	[ 0	locks=0 ]	(	"$HIP/aov/$AOV/refl_$F4"	)
 RS_aovSuffix_2	[ 0	locks=0 ]	(	"specular"	)
 RS_aovFileFormat_2	[ 0	locks=0 ]	(	".exr"	)
 RS_aovSuffix_20	[ 0	locks=0 ]	(	"ignored"	)
