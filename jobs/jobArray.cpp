@@ -1,10 +1,37 @@
 #include "ZK_DataTypes_jobs0_Basics.h"
 
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#if defined(__linux__)
+#    include <sys/mman.h>
+#endif
 
 namespace zkJ {
+
+namespace {
+
+/// Maps the pages of a range of new records before they are written. A
+/// record spans 56 pages, and a page first written faults once; one request
+/// for the whole range costs far less than those faults (a third of the time
+/// on a virtual machine, where faults are dear). A kernel without it faults
+/// the pages in as before.
+void prefault(void* begin, size_t bytes)
+{
+#if defined(__linux__) && defined(MADV_POPULATE_WRITE)
+    constexpr uintptr_t Page = 4096;
+    const uintptr_t first = (reinterpret_cast<uintptr_t>(begin) + Page - 1) & ~(Page - 1);
+    const uintptr_t last = (reinterpret_cast<uintptr_t>(begin) + bytes) & ~(Page - 1);
+    if (last > first)
+        madvise(reinterpret_cast<void*>(first), last - first, MADV_POPULATE_WRITE);
+#else
+    (void)begin;
+    (void)bytes;
+#endif
+}
+
+} // namespace
 
 _JobBasicsArray::_JobBasicsArray()
     : structureID(JobStructureID)
@@ -45,6 +72,7 @@ bool _JobBasicsArray::setArraySize(const int& size)
     }
     if (!grown)
         return false;
+    prefault(grown + allocated, size_t(size - allocated) * sizeof(_JobBasics_largePath));
     for (int i = allocated; i < size; ++i)
         new (static_cast<void*>(grown + i)) _JobBasics_largePath();
     records = grown;
@@ -67,6 +95,7 @@ bool _JobBasicsArray::isVersionSupported(unsigned char minVersion) const
 
 bool _JobBasicsArray::getNewJob(_JobBasics_largePath*& job)
 {
+    const int initialised = allocated;
     ++count;
     setArraySize(count);
     // A count the host left negative would hand out a record before the block.
@@ -75,7 +104,9 @@ bool _JobBasicsArray::getNewJob(_JobBasics_largePath*& job)
         return false;
     }
     job = records + (count - 1);
-    job->zkClearBasics();
+    // A record the growth just made is already what zkClearBasics would leave.
+    if (count - 1 < initialised)
+        job->zkClearBasics();
     return true;
 }
 
