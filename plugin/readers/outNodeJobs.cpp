@@ -9,6 +9,8 @@
 
 #include <cmath>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 const QString SimulationOptions = QStringLiteral(
@@ -19,7 +21,7 @@ const char* const LocalRenderOutOption = " \"AllowLocalRenderOut=0~0\"";
 /// "ip" renders to Houdini's interactive viewer: nothing a farm could write.
 bool isUsableOutput(const QString& path)
 {
-    return !path.isEmpty() && path != QLatin1String("ip");
+    return !path.isEmpty() && path != "ip"_L1;
 }
 
 void removeBraces(QString& path)
@@ -118,8 +120,7 @@ void setExportRenderer(Driver& d, zkJ::_JobBasics_largePath& job, zkJ::_JobBasic
     if (d.isUSD) {
         const _LOPNode* lop = linkedLop(d);
         name.set(lop ? lop->rendererName_create() : QStringLiteral("createUSD"));
-        if (name.indexOf(_zkString<25>("redshift"), 0) >= 0
-            && d.exportPath.endsWith(QLatin1String(".rs"))) {
+        if (name.indexOf(_zkString<25>("redshift"), 0) >= 0 && d.exportPath.endsWith(".rs"_L1)) {
             d.prependPicture = true;
             jobs.arrayText.append(QString::fromLatin1(LocalRenderOutOption));
             d.isRedshift = true;
@@ -148,7 +149,7 @@ void setExportRenderer(Driver& d, zkJ::_JobBasics_largePath& job, zkJ::_JobBasic
 const QString& renderApplication(const Driver& d, bool exportIsSingleFile, const _LOPNode* lop)
 {
     if (d.isUSD) {
-        if (lop && lop->renderer == QLatin1String("arnold"))
+        if (lop && lop->renderer == "arnold"_L1)
             return exportIsSingleFile ? appNameArnold_singlefile : appNameArnold;
         return exportIsSingleFile ? appNameUSDsingle : appNameUSD;
     }
@@ -214,7 +215,7 @@ void applyResolution(const Driver& d, zkJ::_JobBasics_largePath& job, const QStr
 
 LoadResult makeDriverJobs(Driver& d)
 {
-    if (d.path.contains(QLatin1String("/karma"))) {
+    if (d.path.contains("/karma"_L1)) {
         // A Karma driver is its own LOP node: its renderer comes from its name.
         _LOPNode own;
         own.nodePath = d.path;

@@ -18,6 +18,7 @@
 #include <cmath>
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
 using parameterLine::bracketValue;
 using parameterLine::unquotedBracketValue;
 
@@ -49,7 +50,7 @@ Step picture(Driver& d, const QString& line)
 
 Step frameRangeMode(Driver&, const QString& line)
 {
-    if (line.contains(QLatin1String("\"on\"")) || line.contains(QLatin1String("\"normal\"")))
+    if (line.contains("\"on\""_L1) || line.contains("\"normal\""_L1))
         trange = true;
     return Step::Next;
 }
@@ -76,11 +77,11 @@ int intBefore(const QString& text, QChar stop)
 Step frameNumbers(Driver&, const QString& line)
 {
     QString v = bracketValue(line);
-    if (v.contains(QLatin1String("f1"), Qt::CaseInsensitive)) {
+    if (v.contains("f1"_L1, Qt::CaseInsensitive)) {
         dropThrough(v, u"f1", Qt::CaseInsensitive);
         v = v.trimmed();
         seqStart = intBefore(v, u' ');
-        if (v.contains(QLatin1String("f2"), Qt::CaseInsensitive)) {
+        if (v.contains("f2"_L1, Qt::CaseInsensitive)) {
             dropThrough(v, u"f2", Qt::CaseInsensitive);
             seqEnd = intBefore(v, u' ');
             dropThrough(v, u"]");
@@ -125,8 +126,8 @@ Step resolution(Driver& d, const QString& line)
 Step resolutionToggle(Driver& d, const QString& line)
 {
     const QString v = unquotedBracketValue(line);
-    d.resToggle = v.compare(QLatin1String("on"), Qt::CaseInsensitive) == 0
-            || v.compare(QLatin1String("1"), Qt::CaseInsensitive) == 0
+    d.resToggle = v.compare("on"_L1, Qt::CaseInsensitive) == 0
+            || v.compare("1"_L1, Qt::CaseInsensitive) == 0
         ? Driver::Toggle::On
         : Driver::Toggle::Off;
     return Step::Next;
@@ -146,9 +147,9 @@ Step camera(Driver& d, const QString& line)
     const QString v = parameterLine::withoutSelfReference(
         unquotedBracketValue(line), parameterLine::parameterName(line));
     // A camera chosen by an expression cannot be resolved without Houdini.
-    if (v.contains(QLatin1String("chs(")) || v.contains(QLatin1String("chsop(")))
+    if (v.contains("chs("_L1) || v.contains("chsop("_L1))
         return Step::Next;
-    d.proxyCamera = v.startsWith(QLatin1String("proxy_export"), Qt::CaseInsensitive);
+    d.proxyCamera = v.startsWith("proxy_export"_L1, Qt::CaseInsensitive);
     if (!d.proxyCamera)
         camList.addCamFromOutNode(_zkString8_allSize<150>(v), d.path);
     return Step::Next;
@@ -157,7 +158,7 @@ Step camera(Driver& d, const QString& line)
 Step take(Driver& d, const QString& line)
 {
     d.takeName = unquotedBracketValue(line);
-    d.takeName.remove(QLatin1String("_current_"));
+    d.takeName.remove("_current_"_L1);
     return Step::Next;
 }
 
@@ -174,7 +175,7 @@ Step redshiftExtension(Driver& d, const QString& line)
 Step lopLink(Driver& d, const QString& line)
 {
     const QString v = unquotedBracketValue(line);
-    if (!v.contains(QLatin1String("/hdprman")))
+    if (!v.contains("/hdprman"_L1))
         return Step::Next;
     const int index = LOPList.addLOPFromOutNode(v, d.path);
     const QString& imageOut = LOPList.list.at(index).imageOut;
@@ -205,7 +206,7 @@ Step lopRenderer(Driver& d, const QString& line)
 
 Step exportToggle(Driver& d, const QString& line)
 {
-    d.exportMode = bracketValue(line).contains(QLatin1String("on"));
+    d.exportMode = bracketValue(line).contains("on"_L1);
     return Step::Next;
 }
 
@@ -221,7 +222,7 @@ Step vrayExportMode(Driver& d, const QString& line)
 Step filePerFrame(Driver& d, const QString& line)
 {
     if (d.houdiniMajor == 18 && d.houdiniMinorText.startsWith(u'0') && !d.exportPath.contains(u'%'))
-        d.isSingleFile = !line.contains(QLatin1String("on"));
+        d.isSingleFile = !line.contains("on"_L1);
     return Step::Next;
 }
 
@@ -237,15 +238,31 @@ Step exportFile(Driver& d, const QString& line)
 
 enum class AovPart { ArnoldFile, RedshiftPrefix, RedshiftSuffix, RedshiftFormat };
 
-/// Per-AOV parameters carry the AOV's number behind their prefix, such as
-/// "RS_aovSuffix_3\t...". Numbers outside 1 to 19 are taken and ignored.
-Step aov(Driver& d, const QString& line, QLatin1String prefix, AovPart part)
+constexpr QLatin1String aovKeyword(AovPart part)
 {
-    const int n = intBefore(line.mid(prefix.size()), u'\t');
+    switch (part) {
+    case AovPart::ArnoldFile:
+        return "ar_aov_separate_file"_L1;
+    case AovPart::RedshiftPrefix:
+        return "RS_aovCustomPrefix_"_L1;
+    case AovPart::RedshiftSuffix:
+        return "RS_aovSuffix_"_L1;
+    case AovPart::RedshiftFormat:
+        break;
+    }
+    return "RS_aovFileFormat_"_L1;
+}
+
+/// Per-AOV parameters carry the AOV's number behind their keyword, such as
+/// "RS_aovSuffix_3\t...". Numbers outside 1 to 19 are taken and ignored.
+template <AovPart Part>
+Step aov(Driver& d, const QString& line)
+{
+    const int n = intBefore(line.mid(aovKeyword(Part).size()), u'\t');
     if (n < 1 || n >= Driver::AovSlots)
         return Step::Next;
     QString value;
-    switch (part) {
+    switch (Part) {
     case AovPart::ArnoldFile:
         value = unquotedBracketValue(line);
         if (value.isEmpty())
@@ -259,7 +276,7 @@ Step aov(Driver& d, const QString& line, QLatin1String prefix, AovPart part)
             value.remove(0, 1);
         if (value.endsWith(u'"'))
             value.chop(1);
-        (part == AovPart::RedshiftPrefix ? d.aovPrefix : d.aovSuffix)[n] = value;
+        (Part == AovPart::RedshiftPrefix ? d.aovPrefix : d.aovSuffix)[n] = value;
         break;
     case AovPart::RedshiftFormat:
         value = bracketValue(line);
@@ -268,15 +285,43 @@ Step aov(Driver& d, const QString& line, QLatin1String prefix, AovPart part)
         break;
     }
     // An AOV written next to the scene ties the render to the scene's folder.
-    if (value.contains(QLatin1String("$HIP"), Qt::CaseInsensitive))
+    if (value.contains("$HIP"_L1, Qt::CaseInsensitive))
         HIPFound_DisableLocalScene = true;
     return Step::Next;
+}
+
+using Handler = Step (*)(Driver&, const QString&);
+
+/// A line that also tells the renderer: its flag is set before the value is read.
+template <bool Driver::*Flag, Handler Then>
+Step flagThen(Driver& d, const QString& line)
+{
+    d.*Flag = true;
+    return Then(d, line);
+}
+
+/// Redshift's file-name prefix and archive go in front of what was read before.
+template <Handler Then>
+Step redshiftThen(Driver& d, const QString& line)
+{
+    d.isRedshift = true;
+    d.prependPicture = true;
+    return Then(d, line);
+}
+
+Step abandon(Driver&, const QString&)
+{
+    return Step::Abandon;
+}
+
+bool trangeIsOn(const Driver&)
+{
+    return trange;
 }
 
 // ---- the rule table --------------------------------------------------------
 
 using Condition = bool (*)(const Driver&);
-using Handler = Step (*)(Driver&, const QString&);
 
 struct Rule
 {
@@ -286,89 +331,60 @@ struct Rule
     Handler handle; ///< null: the line is taken and ignored
 };
 
-#define KEY(text) QLatin1String(text)
-#define KEYS(a, b)                                                                                 \
-    {                                                                                              \
-        QLatin1String(a), QLatin1String(b)                                                         \
-    }
-#define FLAG_THEN(flag, next)                                                                      \
-    [](Driver& d, const QString& l) {                                                              \
-        d.flag = true;                                                                             \
-        return next(d, l);                                                                         \
-    }
-#define AOV(prefix, part) [](Driver& d, const QString& l) { return aov(d, l, KEY(prefix), part); }
-
 const Rule Rules[] = {
-    { 1, { KEY("trange") }, nullptr, frameRangeMode },
-    { 2, { KEY("f\t") }, [](const Driver&) { return trange; }, frameNumbers },
-    { 3, { KEY("vm_picture\t") }, nullptr, picture },
-    { 4, { KEY("copoutput\t") }, nullptr, picture },
-    { 5, { KEY("ar_picture\t") }, nullptr, FLAG_THEN(isArnold, picture) },
-    { 6, { KEY("RS_outputFileNamePrefix\t") }, nullptr,
-        [](Driver& d, const QString& l) {
-            d.isRedshift = true;
-            d.prependPicture = true;
-            return picture(d, l);
-        } },
-    { 7, { KEY("picture\t") }, nullptr, FLAG_THEN(isPicture, picture) },
-    { 8, { KEY("sopoutput\t") }, nullptr, FLAG_THEN(isGeometry, picture) },
-    { 9, { KEY("file\t") }, nullptr, FLAG_THEN(isGeometry, picture) },
-    { 10, { KEY("filename\t") }, nullptr, FLAG_THEN(isAlembic, picture) },
-    { 11, { KEY("SettingsOutput_img_file_path\t") }, nullptr, FLAG_THEN(isVRay, picture) },
-    { 12, { KEY("outputimage\t") }, nullptr, FLAG_THEN(isUSD, picture) },
-    { 13, KEYS("ri_display_0\t", "ri_display\t"), nullptr, FLAG_THEN(isRenderMan, picture) },
-    { 14, { KEY("take\t") }, nullptr, take },
-    { 15, KEYS("camera\t", "RS_renderCamera\t"), nullptr, camera },
-    { 16, { KEY("RS_outputFileFormat\t") }, nullptr, redshiftExtension },
-    { 17, { KEY("loppath\t") }, nullptr, lopLink },
-    { 18, { KEY("lopoutput\t") }, nullptr, usdOutput },
-    { 19, { KEY("renderer\t") }, nullptr, lopRenderer },
-    { 20, { KEY("soho_outputmode") },
+    { 1, { "trange"_L1 }, nullptr, frameRangeMode },
+    { 2, { "f\t"_L1 }, trangeIsOn, frameNumbers },
+    { 3, { "vm_picture\t"_L1 }, nullptr, picture },
+    { 4, { "copoutput\t"_L1 }, nullptr, picture },
+    { 5, { "ar_picture\t"_L1 }, nullptr, flagThen<&Driver::isArnold, picture> },
+    { 6, { "RS_outputFileNamePrefix\t"_L1 }, nullptr, redshiftThen<picture> },
+    { 7, { "picture\t"_L1 }, nullptr, flagThen<&Driver::isPicture, picture> },
+    { 8, { "sopoutput\t"_L1 }, nullptr, flagThen<&Driver::isGeometry, picture> },
+    { 9, { "file\t"_L1 }, nullptr, flagThen<&Driver::isGeometry, picture> },
+    { 10, { "filename\t"_L1 }, nullptr, flagThen<&Driver::isAlembic, picture> },
+    { 11, { "SettingsOutput_img_file_path\t"_L1 }, nullptr, flagThen<&Driver::isVRay, picture> },
+    { 12, { "outputimage\t"_L1 }, nullptr, flagThen<&Driver::isUSD, picture> },
+    { 13, { "ri_display_0\t"_L1, "ri_display\t"_L1 }, nullptr,
+        flagThen<&Driver::isRenderMan, picture> },
+    { 14, { "take\t"_L1 }, nullptr, take },
+    { 15, { "camera\t"_L1, "RS_renderCamera\t"_L1 }, nullptr, camera },
+    { 16, { "RS_outputFileFormat\t"_L1 }, nullptr, redshiftExtension },
+    { 17, { "loppath\t"_L1 }, nullptr, lopLink },
+    { 18, { "lopoutput\t"_L1 }, nullptr, usdOutput },
+    { 19, { "renderer\t"_L1 }, nullptr, lopRenderer },
+    { 20, { "soho_outputmode"_L1 },
         [](const Driver& d) { return !d.isArnold && !d.isVRay && !d.isRenderMan && !d.isRedshift; },
         exportToggle },
-    { 21, { KEY("ar_ass_export_enable\t") },
+    { 21, { "ar_ass_export_enable\t"_L1 },
         [](const Driver& d) { return !d.isRenderMan && !d.isVRay && !d.isRedshift; },
         exportToggle },
-    { 22, { KEY("RS_archive_enable\t") },
+    { 22, { "RS_archive_enable\t"_L1 },
         [](const Driver& d) { return !d.isRenderMan && !d.isArnold && !d.isVRay; }, exportToggle },
-    { 23, { KEY("rib_outputmode\t") },
+    { 23, { "rib_outputmode\t"_L1 },
         [](const Driver& d) { return !d.isArnold && !d.isVRay && !d.isRedshift; }, exportToggle },
-    { 24, { KEY("diskfile\t") },
+    { 24, { "diskfile\t"_L1 },
         [](const Driver& d) { return !d.isArnold && !d.isVRay && !d.isRedshift; }, exportToggle },
-    { 25, { KEY("render_export_mode\t") }, nullptr, vrayExportMode },
-    { 26, { KEY("fileperframe\t") }, nullptr, filePerFrame },
-    { 27, KEYS("res_override\t", "RS_overrideRes\t"), nullptr, resolution },
+    { 25, { "render_export_mode\t"_L1 }, nullptr, vrayExportMode },
+    { 26, { "fileperframe\t"_L1 }, nullptr, filePerFrame },
+    { 27, { "res_override\t"_L1, "RS_overrideRes\t"_L1 }, nullptr, resolution },
     // The resolution toggle and fraction belong with rule 27 and, like it,
     // must not be hidden by an export file read earlier (rule 33).
-    { 27, KEYS("override_camerares\t", "RS_overrideCameraRes\t"), nullptr, resolutionToggle },
-    { 27, { KEY("res_fraction\t") }, nullptr, resolutionFraction },
-    { 28, { KEY("ar_aov_separate_file") }, nullptr,
-        AOV("ar_aov_separate_file", AovPart::ArnoldFile) },
-    { 29, { KEY("RS_aovCustomPrefix_") }, nullptr,
-        AOV("RS_aovCustomPrefix_", AovPart::RedshiftPrefix) },
-    { 30, { KEY("RS_aovSuffix_") }, nullptr, AOV("RS_aovSuffix_", AovPart::RedshiftSuffix) },
-    { 31, { KEY("RS_aovFileFormat_") }, nullptr,
-        AOV("RS_aovFileFormat_", AovPart::RedshiftFormat) },
+    { 27, { "override_camerares\t"_L1, "RS_overrideCameraRes\t"_L1 }, nullptr, resolutionToggle },
+    { 27, { "res_fraction\t"_L1 }, nullptr, resolutionFraction },
+    { 28, { aovKeyword(AovPart::ArnoldFile) }, nullptr, aov<AovPart::ArnoldFile> },
+    { 29, { aovKeyword(AovPart::RedshiftPrefix) }, nullptr, aov<AovPart::RedshiftPrefix> },
+    { 30, { aovKeyword(AovPart::RedshiftSuffix) }, nullptr, aov<AovPart::RedshiftSuffix> },
+    { 31, { aovKeyword(AovPart::RedshiftFormat) }, nullptr, aov<AovPart::RedshiftFormat> },
     // An Alembic driver with these lines reads geometry in rather than writing it.
-    { 32, KEYS("objectPath", "missing_texture_color"), [](const Driver& d) { return d.isAlembic; },
-        [](Driver&, const QString&) { return Step::Abandon; } },
+    { 32, { "objectPath"_L1, "missing_texture_color"_L1 },
+        [](const Driver& d) { return d.isAlembic; }, abandon },
     // Once a scene-description file is known, later file lines are not read.
     { 33, {}, [](const Driver& d) { return !d.exportPath.isEmpty(); }, nullptr },
-    { 34, { KEY("soho_diskfile\t") }, nullptr, exportFile },
-    { 35, { KEY("ar_ass_file") }, nullptr, FLAG_THEN(isArnold, exportFile) },
-    { 36, { KEY("RS_archive_file") }, nullptr,
-        [](Driver& d, const QString& l) {
-            d.isRedshift = true;
-            d.prependPicture = true;
-            return exportFile(d, l);
-        } },
-    { 37, { KEY("render_export_filepath") }, nullptr, FLAG_THEN(isVRay, exportFile) },
+    { 34, { "soho_diskfile\t"_L1 }, nullptr, exportFile },
+    { 35, { "ar_ass_file"_L1 }, nullptr, flagThen<&Driver::isArnold, exportFile> },
+    { 36, { "RS_archive_file"_L1 }, nullptr, redshiftThen<exportFile> },
+    { 37, { "render_export_filepath"_L1 }, nullptr, flagThen<&Driver::isVRay, exportFile> },
 };
-
-#undef AOV
-#undef FLAG_THEN
-#undef KEYS
-#undef KEY
 
 /// The rules a line may meet, by its first byte: most lines of a section begin
 /// with a letter no keyword begins with and are done after one look.
@@ -432,7 +448,7 @@ QString driverPathOf(const QString& header)
             break;
         }
     }
-    const qsizetype parm = path.indexOf(QLatin1String(".parm"));
+    const qsizetype parm = path.indexOf(".parm"_L1);
     if (parm >= 0)
         path.truncate(parm);
     return u'/' + path;
