@@ -4,24 +4,18 @@
 #include "tools/host/hostRecords.h"
 
 #include <QByteArray>
-#include <QDir>
 #include <QTemporaryDir>
 #include <QtGlobal>
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
-#include <dlfcn.h>
 #include <memory>
 #include <sys/stat.h>
-#include <vector>
 
 namespace {
 
-using zkHost::InfoFn;
-using zkHost::LoadFn;
 using HostLoad = zkHost::SceneLoad;
 
 constexpr unsigned char Pattern = 0xCD;
@@ -33,18 +27,14 @@ protected:
     {
         QString error;
         ASSERT_TRUE(plugin.open(QStringLiteral(ZK_PLUGIN_PATH), error)) << qPrintable(error);
-        info = plugin.info;
-        load = plugin.load;
     }
+    static int info(zkP::_dataPARS_PluginInfo* r) { return plugin.info(r); }
+    static int load(zkP::_dataPARS_LoadSceneFile* r) { return plugin.load(r); }
 
     static zkHost::Plugin plugin;
-    static InfoFn info;
-    static LoadFn load;
 };
 
 zkHost::Plugin EntryPoints::plugin;
-InfoFn EntryPoints::info = nullptr;
-LoadFn EntryPoints::load = nullptr;
 
 QString exampleScene()
 {
@@ -71,54 +61,39 @@ bool untouched(const void* p, size_t n)
 
 // ---- pInfo ----------------------------------------------------------------
 
-TEST_F(EntryPoints, InfoWithMatchingIdentifier)
+TEST_F(EntryPoints, InfoWritesItsFieldsAndOnlyThose)
 {
-    auto r = patternedInfo(45061);
-    EXPECT_EQ(info(r.get()), 1);
-    EXPECT_EQ(r->structureID, 45061);
-    EXPECT_EQ(r->infoVersion, 1);
-    EXPECT_EQ(r->appName.toQString(), QStringLiteral("Houdini"));
-    EXPECT_GT(r->author.length, 0);
-    EXPECT_LE(r->author.length, 100);
-    EXPECT_EQ(r->author.data[r->author.length], 0);
-    EXPECT_EQ(r->pluginVersion.toQString(), QStringLiteral("1.0"));
-    EXPECT_EQ(r->managerVersion.toQString(), QStringLiteral(" 8.4.00"));
-    EXPECT_EQ(r->flag, 0);
-    EXPECT_EQ(r->fileFilter.toQString(), QStringLiteral("*.hip;*.hipnc;*.hiplc;"));
-    EXPECT_EQ(r->fileFilter.data[22], 0);
-
-    // Bytes the plugin does not own keep the host's values.
-    EXPECT_TRUE(untouched(r->reserved4, sizeof(r->reserved4)));
-    EXPECT_TRUE(untouched(r->reserved1F3, sizeof(r->reserved1F3)));
-    EXPECT_TRUE(untouched(&r->fileFilter.data[23], 2 * (100 - 22)));
-    EXPECT_TRUE(untouched(&r->appName.data[8], 2 * (50 - 7)));
-}
-
-TEST_F(EntryPoints, InfoQtVersionIsCutToTwentyFive)
-{
-    auto r = patternedInfo(45061);
-    ASSERT_EQ(info(r.get()), 1);
-    const QByteArray qt(qVersion());
-    const int expected = qMin(int(qt.size()), 25);
-    ASSERT_EQ(r->qtVersion.length, expected);
-    EXPECT_EQ(r->qtVersion.toQString(), QString::fromLatin1(qt.left(25)));
-    EXPECT_EQ(r->qtVersion.data[expected], 0);
-}
-
-TEST_F(EntryPoints, InfoWithMismatchingIdentifier)
-{
-    auto r = patternedInfo(1234);
-    EXPECT_EQ(info(r.get()), 5);
-    EXPECT_EQ(r->structureID, 45061);
-    EXPECT_EQ(r->infoVersion, 1);
-    EXPECT_EQ(r->appName.toQString(), QStringLiteral("Houdini"));
-    EXPECT_EQ(r->pluginVersion.toQString(), QStringLiteral("1.0"));
-    EXPECT_EQ(r->managerVersion.toQString(), QStringLiteral(" 8.4.00"));
-    EXPECT_FALSE(r->qtVersion.isEmpty());
-    // Neither the flag byte nor the file filter is written.
-    EXPECT_EQ(r->flag, Pattern);
-    EXPECT_TRUE(untouched(&r->fileFilter, sizeof(r->fileFilter)));
-    EXPECT_TRUE(untouched(r->reserved1F3, sizeof(r->reserved1F3)));
+    for (const unsigned short identifier : { 45061, 1234 }) {
+        const bool matching = identifier == 45061;
+        auto r = patternedInfo(identifier);
+        EXPECT_EQ(info(r.get()), matching ? 1 : 5);
+        EXPECT_EQ(r->structureID, 45061);
+        EXPECT_EQ(r->infoVersion, 1);
+        EXPECT_EQ(r->appName.toQString(), QStringLiteral("Houdini"));
+        EXPECT_GT(r->author.length, 0);
+        EXPECT_LE(r->author.length, 100);
+        EXPECT_EQ(r->author.data[r->author.length], 0);
+        EXPECT_EQ(r->pluginVersion.toQString(), QStringLiteral("1.0"));
+        EXPECT_EQ(r->managerVersion.toQString(), QStringLiteral(" 8.4.00"));
+        // Qt's version is cut to 25 characters and terminated.
+        const QByteArray qt = QByteArray(qVersion()).left(25);
+        EXPECT_EQ(r->qtVersion.toQString(), QString::fromLatin1(qt));
+        EXPECT_EQ(r->qtVersion.data[qt.size()], 0);
+        // Bytes the plugin does not own keep the host's values; with a foreign
+        // identifier neither the flag byte nor the file filter is written.
+        EXPECT_TRUE(untouched(r->reserved4, sizeof(r->reserved4)));
+        EXPECT_TRUE(untouched(r->reserved1F3, sizeof(r->reserved1F3)));
+        EXPECT_TRUE(untouched(&r->appName.data[8], 2 * (50 - 7)));
+        if (!matching) {
+            EXPECT_EQ(r->flag, Pattern);
+            EXPECT_TRUE(untouched(&r->fileFilter, sizeof(r->fileFilter)));
+            continue;
+        }
+        EXPECT_EQ(r->flag, 0);
+        EXPECT_EQ(r->fileFilter.toQString(), QStringLiteral("*.hip;*.hipnc;*.hiplc;"));
+        EXPECT_EQ(r->fileFilter.data[22], 0);
+        EXPECT_TRUE(untouched(&r->fileFilter.data[23], 2 * (100 - 22)));
+    }
 }
 
 // ---- pLoadSceneFile: refusals ---------------------------------------------

@@ -135,29 +135,27 @@ QJsonObject jobTemplate()
 QStringList caseErrors(const QJsonObject& expect)
 {
     QStringList errors;
-    const QStringList topKeys
-        = { QStringLiteral("arguments"), QStringLiteral("environment"), QStringLiteral("result"),
-              QStringLiteral("arrayText"), QStringLiteral("jobCount"), QStringLiteral("jobs") };
-    for (const QString& key : expect.keys()) {
-        if (!topKeys.contains(key))
-            errors << QStringLiteral("unknown key \"%1\"").arg(key);
+    // The top-level keys, their types, and which of them a case must have.
+    const QJsonObject top { { QStringLiteral("arguments"), QJsonArray() },
+        { QStringLiteral("environment"), QJsonObject() }, { QStringLiteral("result"), 0 },
+        { QStringLiteral("arrayText"), QString() }, { QStringLiteral("jobCount"), 0 },
+        { QStringLiteral("jobs"), QJsonArray() } };
+    for (const char* required : { "result", "arrayText", "jobCount" }) {
+        if (!expect.contains(QLatin1String(required)))
+            errors << QStringLiteral("\"%1\" is missing").arg(QLatin1String(required));
     }
-    if (!expect.value(QStringLiteral("result")).isDouble())
-        errors << QStringLiteral("\"result\" must be a number");
-    if (!expect.value(QStringLiteral("jobCount")).isDouble())
-        errors << QStringLiteral("\"jobCount\" must be a number");
-    if (!expect.value(QStringLiteral("arrayText")).isString())
-        errors << QStringLiteral("\"arrayText\" must be a string");
-    for (const QJsonValue& a : expect.value(QStringLiteral("arguments")).toArray()) {
-        if (!a.isString())
-            errors << QStringLiteral("\"arguments\" must hold strings");
+    for (auto it = expect.begin(); it != expect.end(); ++it) {
+        if (!top.contains(it.key()))
+            errors << QStringLiteral("unknown key \"%1\"").arg(it.key());
+        else if (top.value(it.key()).type() != it.value().type())
+            errors << QStringLiteral("\"%1\" has the wrong type").arg(it.key());
     }
-    const QJsonValue env = expect.value(QStringLiteral("environment"));
-    if (!env.isUndefined() && !env.isObject())
-        errors << QStringLiteral("\"environment\" must be an object");
-    for (const QJsonValue& v : env.toObject()) {
+    QJsonArray texts = expect.value(QStringLiteral("arguments")).toArray();
+    for (const QJsonValue& v : expect.value(QStringLiteral("environment")).toObject())
+        texts.append(v);
+    for (const QJsonValue& v : texts) {
         if (!v.isString())
-            errors << QStringLiteral("\"environment\" values must be strings");
+            errors << QStringLiteral("arguments and environment values must be strings");
     }
 
     static const QJsonObject known = jobTemplate();
