@@ -280,9 +280,10 @@ GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(SceneCases);
 TEST(SceneCaseFiles, EverySceneHasItsExpectations)
 {
     const QDir dir(CasesDir);
-    const QStringList scenes = dir.entryList(
-        { QStringLiteral("*.hip"), QStringLiteral("*.hipnc"), QStringLiteral("*.hiplc") },
-        QDir::Files);
+    QStringList patterns;
+    for (const QString& suffix : SceneSuffixes)
+        patterns << u'*' + suffix;
+    const QStringList scenes = dir.entryList(patterns, QDir::Files);
     EXPECT_FALSE(scenes.isEmpty());
     for (const QString& scene : scenes) {
         const QString name = scene.left(scene.lastIndexOf(u'.'));

@@ -64,7 +64,7 @@ TEST(ZkString, ClearLeavesStaleUnitsThatNeverCount)
 
 // ---- case rules ---------------------------------------------------------------
 
-TEST(ZkString, MembersWithoutCaseSenIgnoreCase)
+TEST(ZkString, SearchesIgnoreCase)
 {
     const _zkString<250> s("Render/Beauty.EXR");
     EXPECT_EQ(s.indexOf(z<250>("beauty"), 0), 7);
