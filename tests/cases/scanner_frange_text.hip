@@ -1,1 +1,1 @@
-frange 1 240 x
+frange a 240 x

@@ -65,6 +65,12 @@ TEST(JobIdentifiers, ShortPackingMatchesFullIdentifier)
             EXPECT_EQ(back.str(), s.str());
         }
     }
+    // A job's identifier parts: the pre number is the low byte, the rest is main.
+    auto job = std::make_unique<_JobBasics>();
+    job->ID = makeID(5000000, 2, 1, 1);
+    EXPECT_EQ(job->IDpre(), 2);
+    EXPECT_EQ(job->IDmain(), makeID(5000000, 0, 1, 1));
+
     _IDShort s;
     s.fromInt32(0xAB12345Cu);
     EXPECT_EQ(int(s.preNumber), 0x5C);

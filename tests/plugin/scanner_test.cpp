@@ -92,10 +92,13 @@ TEST(ScannerCases, ScanLearnsWhatTheRulesSay)
         const char* learned;
     } rows[] = {
         { "scanner_frange.hip", "frange 1001 1100" },
-        { "scanner_frange_text.hip", "frange 1 0" },
+        { "scanner_frange_text.hip", "frange 0 0" },
+        { "scanner_frange_negative.hip", "frange -5 -1" },
         { "scanner_version.hip", "version 19.5.303 major 19 minor 5.303/5303" },
         { "scanner_version_build.hip", "version 20.0.547.1 major 20 minor 0/0" },
         { "scanner_version_parts.hip", "version 20.0.547.1 major 20 minor 0.547.1/0547" },
+        { "scanner_version_nodot.hip", "version 21 major 21 minor /" },
+        { "scanner_version_text.hip", "version x.5 major 0 minor 5/5" },
         { "scanner_variables.hip",
             "vars JOB=/proj/shot|job=a b|X=v|EMPTY=|ONE=|A=b = c|SPACED=v|BACK=w' set -g BAC" },
         { "scanner_takes.hip", "takes Main|shot_a|Last|less" },
@@ -182,6 +185,14 @@ TEST(Scanner, DriverAndRenderSettingsResultsEndTheScan)
     result = scanWithFakes(scene, 1, 1);
     EXPECT_EQ(result.result, 1);
     EXPECT_EQ(recorded.outCalls, 2);
+
+    // The submitter's switches reach the completion pass through the result.
+    LoadContext ctx;
+    ctx.buildVersionSwitch = ctx.compressedExportSwitch = true;
+    zkTest::TextLines lines("");
+    result = scanScene(ctx, lines.source);
+    EXPECT_TRUE(result.buildVersionSwitch);
+    EXPECT_TRUE(result.compressedExportSwitch);
 }
 
 // ---- scene-wide state that cases cannot vary -------------------------------
