@@ -2,7 +2,7 @@
 // table: each row is a section, and the expectation describes every list
 // entry the section left, plus the first line the reader did not consume.
 #include "plugin/readers/readerCommon.h"
-#include "sectionFeed.h"
+#include "readerText.h"
 
 #include <gtest/gtest.h>
 

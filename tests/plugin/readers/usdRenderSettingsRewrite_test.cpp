@@ -3,7 +3,7 @@
 #include "jobs/ZK_DataTypes_jobs0_Basics.h"
 #include "plugin/readers/readerCommon.h"
 #include "plugin/zkPluginRecords.h"
-#include "sectionFeed.h"
+#include "readerText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// Helpers of the reader tests: sections are fed through the same LineSource
+// Helpers of the reader tests; sections are fed through the same LineSource
 // the scanner uses (support/textLines.h).
 #pragma once
 
