@@ -78,9 +78,9 @@ void copyString8(_zkString8_allSize<N>& to, const _zkString8_allSize<N>& from)
 }
 
 /// Copies a large-path text into a smaller field: the source length is taken
-/// up to its first zero unit, not from its length field. The count is that of
-/// zkCharLen, but it stops at the field's end: a record whose text lost its
-/// terminator must not make the scan run on into the next record.
+/// up to its first zero unit, not from its length field, and the count stops
+/// at the field's end: a record whose text lost its terminator must not make
+/// the scan run on into the next record.
 template <int To, int From>
 void copyCut(_zkString<To>& to, const _zkString<From>& from)
 {

@@ -59,14 +59,6 @@ QString zkPathResolve(QString path)
     return path;
 }
 
-int zkCharLen(const unsigned short* text)
-{
-    int n = 0;
-    while (text[n] != 0)
-        ++n;
-    return n;
-}
-
 namespace {
 
 struct Crc64Table

@@ -50,8 +50,6 @@ ZK_SHARED_EXPORT QString zkGetFileNameBase(QString path, unsigned short separato
 /// Machine normalisation of a path; it keeps separators and frame tokens, and
 /// on this platform it returns the path unchanged.
 ZK_SHARED_EXPORT QString zkPathResolve(QString path);
-/// Number of UTF-16 units before the first 0 unit.
-ZK_SHARED_EXPORT int zkCharLen(const unsigned short* text);
 /// CRC-64/XZ (ECMA-182 polynomial, reflected, all-ones init and final XOR).
 ZK_SHARED_EXPORT unsigned long long zkCRCCalc64(const void* data, unsigned long size);
 /// First 16 bytes of the SHA-1 digest of \p size bytes.

@@ -119,12 +119,6 @@ struct _zkString
         length = static_cast<unsigned short>(n);
         data[n] = 0;
     }
-    /// Copies another capacity's text, cut to N.
-    template <int M>
-    void setFrom(const _zkString<M>& other)
-    {
-        setUnits(other.data, other.length);
-    }
 
     QString toQString() const
     {
@@ -155,7 +149,6 @@ struct _zkString
         data[0] = 0;
     }
     bool isEmpty() const { return length == 0; }
-    bool hasData() const { return length != 0; }
     int size() const { return length; }
 
     /// Cuts to n units; n above the current length (or negative) does nothing.
@@ -208,7 +201,6 @@ struct _zkString
     }
 
     void replace(const _zkString& from, const _zkString& to) { replaceImpl(from, to, false); }
-    void replaceCaseSen(const _zkString& from, const _zkString& to) { replaceImpl(from, to, true); }
 
     // ---- searching ---------------------------------------------------------
 
@@ -223,32 +215,6 @@ struct _zkString
     int indexOf(const _zkString& text, int from) const
     {
         return zkStr::findUnits(data, length, text.data, text.length, from, false);
-    }
-    int indexOfCaseSen(const _zkString& text, int from) const
-    {
-        return zkStr::findUnits(data, length, text.data, text.length, from, true);
-    }
-
-    /// Smallest position at which any of the six texts occurs (ignoring case),
-    /// or -1; *which (when given) receives the 1-based number of that text.
-    int indexOfFirstOcc(const _zkString& t1, const _zkString& t2, const _zkString& t3,
-        const _zkString& t4, const _zkString& t5, const _zkString& t6, int* which) const
-    {
-        const _zkString* texts[6] = { &t1, &t2, &t3, &t4, &t5, &t6 };
-        int best = -1;
-        int bestWhich = 0;
-        for (int k = 0; k < 6; ++k) {
-            if (texts[k]->length == 0)
-                continue;
-            const int p = indexOf(*texts[k], 0);
-            if (p >= 0 && (best < 0 || p < best)) {
-                best = p;
-                bestWhich = k + 1;
-            }
-        }
-        if (which)
-            *which = bestWhich;
-        return best;
     }
 
     /// Last position of ch at or before from; from -1 (or beyond the end) searches from the end.
@@ -267,10 +233,6 @@ struct _zkString
     bool startsWith(const _zkString& text) const
     {
         return text.length <= length && zkStr::unitsEqual(data, text.data, text.length, false);
-    }
-    bool startsWithCaseSen(_zkString text) const
-    {
-        return text.length <= length && zkStr::unitsEqual(data, text.data, text.length, true);
     }
     bool endsWith(const char* text) const
     {

@@ -65,59 +65,15 @@ TEST(JobIdentifiers, ShortPackingMatchesFullIdentifier)
             EXPECT_EQ(back.str(), s.str());
         }
     }
+    // A job's identifier parts: the pre number is the low byte, the rest is main.
+    auto job = std::make_unique<_JobBasics>();
+    job->ID = makeID(5000000, 2, 1, 1);
+    EXPECT_EQ(job->IDpre(), 2);
+    EXPECT_EQ(job->IDmain(), makeID(5000000, 0, 1, 1));
+
     _IDShort s;
     s.fromInt32(0xAB12345Cu);
     EXPECT_EQ(int(s.preNumber), 0x5C);
     EXPECT_EQ(int(s.mainLow), 0x1234);
     EXPECT_EQ(int(s.mainHigh), 0xAB);
-}
-
-TEST(JobIdentifiers, JobAccessors)
-{
-    auto job = std::make_unique<_JobBasics>();
-    job->ID = makeID(5000000, 2, 1, 1);
-    EXPECT_EQ(job->IDpre(), 2);
-    EXPECT_EQ(job->IDmain(), makeID(5000000, 0, 1, 1));
-    EXPECT_EQ(job->IDstr(), job->ID2str());
-    EXPECT_EQ(job->IDstrFull(), job->ID2strFull());
-    EXPECT_EQ(ID2str(job->IDmain()), ID2str(makeID(5000000, 0)));
-    EXPECT_TRUE(job->IDstr().endsWith(QStringLiteral("b}")));
-}
-
-TEST(JobConstants, LetterTablesAndKeys)
-{
-    EXPECT_EQ(ID_letters.size(), 36);
-    EXPECT_FALSE(ID_letters.contains(u'I'));
-    EXPECT_FALSE(ID_letters.contains(u'0'));
-    EXPECT_EQ(ID_letters_small.size(), 24);
-    EXPECT_FALSE(ID_letters_small.contains(u'i'));
-    EXPECT_FALSE(ID_letters_small.contains(u'm'));
-    EXPECT_EQ(CUSTOMSubmitterParameter, QStringLiteral("zkSubmitterParameter"));
-    EXPECT_EQ(noAccessDescriptionShort_noprojectroot.toQString(),
-        QStringLiteral("!NoProjectRootAccess!"));
-}
-
-TEST(SubmitterParameters, DefinedAndEmptySlots)
-{
-    const zkRS::_jobParam& verbose = zkRS::zkParamArray[7];
-    EXPECT_EQ(verbose.paramName.toQString(), QStringLiteral("Render Verbose"));
-    EXPECT_EQ(verbose.paramTypeA, 3u);
-    EXPECT_EQ(verbose.paramTypeB, 2u);
-    EXPECT_EQ(verbose.paramFlag2, 1);
-    EXPECT_EQ(verbose.maxValue, 6);
-    EXPECT_EQ(verbose.paramOptions[2].toQString(), QStringLiteral("Errors & Warnings"));
-    EXPECT_EQ(verbose.paramOptions[5].toQString(), QStringLiteral("Debug"));
-
-    const zkRS::_jobParam& quality = zkRS::zkParamArray[8];
-    EXPECT_EQ(quality.maxValue, 2147483647);
-    EXPECT_EQ(quality.paramOptions[4].toQString(), QStringLiteral("Best"));
-    EXPECT_TRUE(quality.paramOptions[5].isEmpty());
-
-    EXPECT_EQ(zkRS::zkParamArray[9].defaultValue, 13);
-    EXPECT_EQ(zkRS::zkParamArray[9].paramFlag1, 1);
-
-    // Unused slots are all zero bytes, as the host compares them raw.
-    const auto* raw = reinterpret_cast<const unsigned char*>(&zkRS::zkParamArray[18]);
-    for (size_t i = 0; i < sizeof(zkRS::_jobParam) * 10; ++i)
-        ASSERT_EQ(raw[i], 0) << i;
 }

@@ -174,30 +174,3 @@ TEST(DirectoryLevels, GetDirectoryUntilNo)
             << c.path << " " << c.no << " " << c.count;
     }
 }
-
-TEST(LogMessages, TypeSets)
-{
-    const struct
-    {
-        unsigned type;
-        bool closed;
-        bool frame;
-    } cases[] = {
-        { 14, true, true },
-        { 21, false, true },
-        { 41, false, true },
-        { 57, false, true },
-        { 61, true, true },
-        { 71, true, true },
-        { 72, false, true },
-        { 0, false, false },
-        { 13, false, false },
-        { 37, false, false },
-        { 0xFFFFFFFFu, false, false },
-    };
-    for (const auto& c : cases) {
-        const _LogMessage m { c.type };
-        EXPECT_EQ(log_IsClientSegmentClosed(m), c.closed) << c.type;
-        EXPECT_EQ(log_hasFrameSegment(m), c.frame) << c.type;
-    }
-}

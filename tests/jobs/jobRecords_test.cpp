@@ -97,34 +97,6 @@ TEST(FirstLayerCopy, CopiesStaleUnitsBehindTheText)
 
 // ---- initialisers ---------------------------------------------------------
 
-TEST(RecordInit, DefaultsOfBothForms)
-{
-    auto large = std::make_unique<_JobBasics_largePath>();
-    auto compact = std::make_unique<_JobBasics>();
-    for (const FirstLayer* r : { static_cast<const FirstLayer*>(large.get()),
-             static_cast<const FirstLayer*>(compact.get()) }) {
-        EXPECT_EQ(r->structureID, 1033);
-        EXPECT_EQ(r->structureVersion, 1);
-        EXPECT_EQ(r->initMarker, 3);
-        EXPECT_EQ(r->padding, 4);
-        EXPECT_EQ(r->sceneOS, 0);
-        EXPECT_TRUE(r->camera.isEmpty());
-        EXPECT_EQ(r->waitForPreIDCount, 0);
-    }
-    EXPECT_EQ(large->seqStart, 1.0);
-    EXPECT_EQ(large->seqEnd, 1.0);
-    EXPECT_EQ(large->seqStep, 1);
-    EXPECT_EQ(compact->seqStep, 1);
-    EXPECT_TRUE(large->settingText2.isEmpty());
-    EXPECT_TRUE(large->settingText3.isEmpty());
-    EXPECT_TRUE(large->settingText4.isEmpty());
-    EXPECT_EQ(compact->settingText2.toQString(), QStringLiteral("<auto>"));
-    EXPECT_EQ(compact->settingText3.toQString(), QStringLiteral("<auto>"));
-    EXPECT_EQ(compact->settingText4.toQString(), QStringLiteral("<auto>"));
-    EXPECT_TRUE(compact->settingText1.isEmpty());
-    EXPECT_TRUE(compact->settingText5.isEmpty());
-}
-
 TEST(RecordInit, ClearKeepsTheHeadAndZeroesTheRest)
 {
     auto r = std::make_unique<_JobBasics>();

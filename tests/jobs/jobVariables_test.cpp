@@ -54,37 +54,21 @@ std::unique_ptr<_JobBasics> fullJob()
 TEST(JobVariables, AllRowsInOrder)
 {
     const _varValList list = fullJob()->exportJobVarList_Basic(false);
-    const QStringList expected { QStringLiteral("ImageDirComplete"),
-        QStringLiteral("ImageDirComplete><../"), QStringLiteral("ImageDirComplete><../><../"),
-        QStringLiteral("ImageDir"), QStringLiteral("ImageDir><../"),
-        QStringLiteral("ImageDir><../><../"), QStringLiteral("MainImageDir"),
-        QStringLiteral("ImageStereoL"), QStringLiteral("ImageStereoR"),
-        QStringLiteral("ImageStereoM"), QStringLiteral("ColorSpace"),
-        QStringLiteral("SceneFolder><../><../"), QStringLiteral("SceneFolder><../"),
-        QStringLiteral("SceneFolder"), QStringLiteral("SceneFileNameBase"),
-        QStringLiteral("Database"), QStringLiteral("SceneDatabaseDir"), QStringLiteral("D"),
-        QStringLiteral("DatabaseName"), QStringLiteral("App"), QStringLiteral("AppRenderer"),
-        QStringLiteral("AppLow"), QStringLiteral("AppRendererLow"), QStringLiteral("AppVer"),
-        QStringLiteral("AppVerMinor"), QStringLiteral("AppVerMinorFull"),
-        QStringLiteral("AppRendererVersion"), QStringLiteral("renderLicenses"),
-        QStringLiteral("requiredLicenses"), QStringLiteral("zkJobVersion"),
-        QStringLiteral("zkJobVersionMajor"), QStringLiteral("zkJobVersionMinor"),
-        QStringLiteral("zkJobVersionMinorFull"), QStringLiteral("zkJobVersionMinorTwoDigits"),
-        QStringLiteral("zkJobRendererVersion"), QStringLiteral("zkJobRendererVersionMajor"),
-        QStringLiteral("AppType"), QStringLiteral("OS"), QStringLiteral("Layer"),
-        QStringLiteral("LayerAsFileName"), QStringLiteral("Pass"), QStringLiteral("P"),
-        QStringLiteral("Camera"), QStringLiteral("Camera_no."), QStringLiteral("Channel"),
-        QStringLiteral("AOVChannel"), QStringLiteral("AOV"), QStringLiteral("State"),
-        QStringLiteral("SceneState"), QStringLiteral("MainImageExtension"), QStringLiteral("PNL"),
-        QStringLiteral("ImageFormatOverride"), QStringLiteral("OverrideImageFormat"),
-        QStringLiteral("ImageSingleOutputFile"), QStringLiteral("TotalStep"),
-        QStringLiteral("TotalEnd"), QStringLiteral("TotalStart"), QStringLiteral("TotalSeqStep"),
-        QStringLiteral("TotalSeqEnd"), QStringLiteral("TotalSeqStart"),
-        QStringLiteral("SeqFrameSet"), QStringLiteral("FrameSet"), QStringLiteral("sceneOS"),
-        QStringLiteral("sceneOSstr"), QStringLiteral("ShutgunID"), QStringLiteral("ShotgunID"),
-        QStringLiteral("Padding"), QStringLiteral("TotalTiles"), QStringLiteral("ImageMulti"),
-        QStringLiteral("ImageHeight"), QStringLiteral("ImageWidth"), QStringLiteral("Height"),
-        QStringLiteral("Width"), QStringLiteral("AdditionalCommandlineParam") };
+    const QStringList expected = QStringLiteral(
+        "ImageDirComplete ImageDirComplete><../ ImageDirComplete><../><../ ImageDir "
+        "ImageDir><../ ImageDir><../><../ MainImageDir ImageStereoL ImageStereoR "
+        "ImageStereoM ColorSpace SceneFolder><../><../ SceneFolder><../ SceneFolder "
+        "SceneFileNameBase Database SceneDatabaseDir D DatabaseName App AppRenderer AppLow "
+        "AppRendererLow AppVer AppVerMinor AppVerMinorFull AppRendererVersion renderLicenses "
+        "requiredLicenses zkJobVersion zkJobVersionMajor zkJobVersionMinor "
+        "zkJobVersionMinorFull zkJobVersionMinorTwoDigits zkJobRendererVersion "
+        "zkJobRendererVersionMajor AppType OS Layer LayerAsFileName Pass P Camera Camera_no. "
+        "Channel AOVChannel AOV State SceneState MainImageExtension PNL ImageFormatOverride "
+        "OverrideImageFormat ImageSingleOutputFile TotalStep TotalEnd TotalStart "
+        "TotalSeqStep TotalSeqEnd TotalSeqStart SeqFrameSet FrameSet sceneOS sceneOSstr "
+        "ShutgunID ShotgunID Padding TotalTiles ImageMulti ImageHeight ImageWidth Height "
+        "Width AdditionalCommandlineParam")
+                                     .split(u' ');
     EXPECT_EQ(expected.size(), 74);
     EXPECT_EQ(namesOf(list), expected);
 }

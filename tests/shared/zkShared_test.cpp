@@ -28,13 +28,7 @@ TEST(ZkGetDirName, KeepsTheSeparatorAndClimbsFromADirectory)
         EXPECT_EQ(zkGetDirName(QLatin1String(r.path), r.sep), QLatin1String(r.expected)) << r.path;
     }
 
-    const QString once = zkGetDirName(QStringLiteral("/proj/shot/render/img.exr"), u'/');
-    EXPECT_EQ(zkGetDirName(once, u'/'), QStringLiteral("/proj/shot/"));
-    EXPECT_EQ(zkGetDirName(zkGetDirName(once, u'/'), u'/'), QStringLiteral("/proj/"));
-}
-
-TEST(ZkGetDirName, FixedCapacityForm)
-{
+    // The fixed-capacity form climbs the same way.
     const _zkString<500> p("/proj/shot/render/");
     EXPECT_EQ(zkGetDirName(p).toQString(), QStringLiteral("/proj/shot/"));
     EXPECT_EQ(zkGetDirName(zkGetDirName(p)).toQString(), QStringLiteral("/proj/"));
@@ -63,20 +57,6 @@ TEST(ZkGetFileNameBase, LastComponentWithoutExtension)
 
     const QString p = QStringLiteral("/r/img.exr");
     EXPECT_EQ(zkGetDirName(p, u'/') + zkGetFileNameBase(p, u'/'), QStringLiteral("/r/img"));
-}
-
-TEST(ZkPathResolve, LeavesSeparatorsAndTokensAlone)
-{
-    for (const char* p : { "/r/img.%04d.exr", "C:\\r\\<FN4>.exr", "//srv/share/a.####.tif", "" })
-        EXPECT_EQ(zkPathResolve(QLatin1String(p)), QLatin1String(p));
-}
-
-TEST(ZkCharLen, CountsUpToTheFirstZeroUnit)
-{
-    const unsigned short text[] = { 'a', 'b', 'c', 0, 'd', 0 };
-    EXPECT_EQ(zkCharLen(text), 3);
-    const unsigned short empty[] = { 0, 'x' };
-    EXPECT_EQ(zkCharLen(empty), 0);
 }
 
 TEST(ZkChecksums, Crc64IsXZ)
@@ -109,18 +89,6 @@ TEST(ZkTexts, IllegalFileNameCharactersRemoved)
         QString::fromUtf8("Layer 1 \xC3\xA9-_."));
 }
 
-TEST(ZkTexts, BooleansAndOperatingSystems)
-{
-    EXPECT_EQ(bool2str(true, false), QStringLiteral("true"));
-    EXPECT_EQ(bool2str(false, false), QStringLiteral("false"));
-    EXPECT_EQ(bool2str(true, true), QStringLiteral("true"));
-    EXPECT_EQ(OS2String(zkOS_windows), QStringLiteral("win"));
-    EXPECT_EQ(OS2String(zkOS_linux), QStringLiteral("lx"));
-    EXPECT_EQ(OS2String(zkOS_mac), QStringLiteral("mac"));
-    EXPECT_EQ(OS2String(zkOS_unknown), QString());
-    EXPECT_EQ(OS2String(static_cast<_zkOS>(200)), QString());
-}
-
 TEST(ZkEnvironment, ListKeepsOrderAndSplitsAtFirstEquals)
 {
     // setenv appends new names at the end of environ, in call order.
@@ -143,19 +111,6 @@ TEST(ZkEnvironment, ListKeepsOrderAndSplitsAtFirstEquals)
     EXPECT_TRUE(list.at(second).value.isEmpty());
     unsetenv("ZK_ENV_TEST_FIRST");
     unsetenv("ZK_ENV_TEST_SECOND");
-}
-
-TEST(VarValList, KeepsDuplicatesInInsertionOrder)
-{
-    _varValList list;
-    list.add(QStringLiteral("A"), QStringLiteral("1"));
-    list.add(QStringLiteral("B"), QStringLiteral("2"));
-    list.add(QStringLiteral("A"), QStringLiteral("3"));
-    ASSERT_EQ(list.size(), 3);
-    EXPECT_EQ(list.at(2).value, QStringLiteral("3"));
-    EXPECT_EQ(list.value(QStringLiteral("A")), QStringLiteral("1"));
-    EXPECT_TRUE(list.value(QStringLiteral("a")).isEmpty()); // names are exact
-    EXPECT_FALSE(list.contains(QStringLiteral("C")));
 }
 
 } // namespace

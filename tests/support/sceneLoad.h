@@ -1,14 +1,14 @@
-// Loading scene text through the plugin's own entry point, for tests.
+// Loading a scene through the plugin's own entry point, linked into the test
+// program, so the module state can be read afterwards.
 //
 //     zkJ::_JobBasicsArray jobs;
-//     const int result = zkTest::loadSceneText("frange 1 240\n", jobs);
+//     const int result = zkTest::loadSceneFile(path, jobs);
 //     // result is pLoadSceneFile's code; the module state and jobs hold the scene.
 #pragma once
 
 #include "jobs/ZK_DataTypes_jobs0_Basics.h"
 #include "plugin/zkPluginRecords.h"
 
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -20,11 +20,5 @@ namespace zkTest {
 /// \p arguments (such as "-houdiniBuildVersion"), and returns its result.
 int loadSceneFile(
     const QString& path, zkJ::_JobBasicsArray& jobs, const QStringList& arguments = {});
-
-/// Writes \p text byte for byte to a temporary file named \p fileName, loads
-/// it as loadSceneFile() does and removes it again. Returns the load result,
-/// or -1 when the file could not be written.
-int loadSceneText(const QByteArray& text, zkJ::_JobBasicsArray& jobs,
-    const QStringList& arguments = {}, const QString& fileName = QStringLiteral("scene.hip"));
 
 } // namespace zkTest

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -96,50 +98,34 @@ TEST_F(HoudiniVariables, FrameNumbersUseSixSignificantDigits)
     }
 }
 
-TEST_F(HoudiniVariables, SceneVariablesAndTheirRootForm)
+TEST_F(HoudiniVariables, SceneVariables)
 {
-    addVariable("SHOT", "/jobs/a.hip");
-    addVariable("MULTI", "/x.hiplc/y.hip/z.hipnc");
-    const ExpansionCase cases[] = {
-        { "$SHOT:r", "/jobs/a" },
-        { "$SHOT", "/jobs/a.hip" },
-        { "${SHOT}:r|${shot}", "/jobs/a|/jobs/a.hip" },
-        { "$MULTI:r", "/x/y/z" },
-        { "$SHOTDIR", "/jobs/a.hipDIR" },
+    const struct
+    {
+        std::initializer_list<std::pair<const char*, const char*>> variables;
+        const char* path;
+        const char* expected;
+    } rows[] = {
+        // ":r" drops the scene extensions; a longer name is not a match.
+        { { { "SHOT", "/jobs/a.hip" } }, "$SHOT:r|$SHOT|${SHOT}:r|${shot}|$SHOTDIR",
+            "/jobs/a|/jobs/a.hip|/jobs/a|/jobs/a.hip|/jobs/a.hipDIR" },
+        { { { "MULTI", "/x.hiplc/y.hip/z.hipnc" } }, "$MULTI:r", "/x/y/z" },
+        // List order decides between names that prefix one another.
+        { { { "SHOTDIR", "/d" }, { "SHOT", "/s" } }, "$SHOTDIR/$SHOT", "/d//s" },
+        // Scene variables come after the built-in names, before node and range.
+        { { { "A", "$HIP/x" }, { "B", "$OS-$RFSTART" }, { "HIPNAME", "never" },
+              { "OS", "custom" } },
+            "$A|$B|$HIPNAME", "$HIP/x|custom-1001|scene" },
+        // Inserted text is not scanned again within one step.
+        { { { "LOOP", "$LOOP$LOOP" } }, "$LOOP", "$LOOP$LOOP" },
+        { { { "", "oops" } }, "$F4.exr", "$F4.exr" },
     };
-    for (const ExpansionCase& c : cases)
-        EXPECT_EQ(expand(c.path), QString::fromUtf8(c.expected)) << c.path;
-}
-
-TEST_F(HoudiniVariables, ListOrderDecidesBetweenPrefixNames)
-{
-    addVariable("SHOTDIR", "/d");
-    addVariable("SHOT", "/s");
-    EXPECT_EQ(expand("$SHOTDIR/$SHOT"), QStringLiteral("/d//s"));
-}
-
-TEST_F(HoudiniVariables, SceneVariablesComeAfterBuiltInsBeforeNodeAndRange)
-{
-    addVariable("A", "$HIP/x");
-    addVariable("B", "$OS-$RFSTART");
-    addVariable("HIPNAME", "never");
-    addVariable("OS", "custom");
-    EXPECT_EQ(expand("$A"), QStringLiteral("$HIP/x"));
-    EXPECT_EQ(expand("$B"), QStringLiteral("custom-1001"));
-    EXPECT_EQ(expand("$HIPNAME"), QStringLiteral("scene"));
-}
-
-TEST_F(HoudiniVariables, InsertedTextIsNotRescannedWithinAStep)
-{
-    // The value holds its own token: one pass must not loop on it.
-    addVariable("LOOP", "$LOOP$LOOP");
-    EXPECT_EQ(expand("$LOOP"), QStringLiteral("$LOOP$LOOP"));
-}
-
-TEST_F(HoudiniVariables, NamelessVariableIsIgnored)
-{
-    addVariable("", "oops");
-    EXPECT_EQ(expand("$F4.exr"), QStringLiteral("$F4.exr"));
+    for (const auto& row : rows) {
+        variables.clear();
+        for (const auto& [name, value] : row.variables)
+            addVariable(name, value);
+        EXPECT_EQ(expand(row.path), QString::fromUtf8(row.expected)) << row.path;
+    }
 }
 
 } // namespace

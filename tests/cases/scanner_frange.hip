@@ -1,0 +1,6 @@
+# frange 3 4
+x frange 3 4
+framerange 3 4
+  FRANGE 1001 1100  
+frange 5
+frange

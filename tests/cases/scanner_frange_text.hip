@@ -1,0 +1,1 @@
+frange a 240 x

@@ -1,0 +1,1 @@
+set -g _HIP_SAVEVERSION = 'x.5'
