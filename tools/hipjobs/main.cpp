@@ -61,12 +61,17 @@ void printOut(const QByteArray& bytes)
 
 // ---- output ---------------------------------------------------------------
 
+/// The frame number as the host writes it: one "#" per digit, none for a
+/// single output file.
+QString frameToken(const zkJ::_JobBasics_largePath& job)
+{
+    return job.imageSingleOutputFile ? QString() : QString(int(job.padding), u'#');
+}
+
 QString imagePath(const zkJ::_JobBasics_largePath& job)
 {
-    QString token;
-    if (!job.imageSingleOutputFile && job.padding > 0)
-        token = QString(int(job.padding), u'#');
-    return text(job.imageDir) + text(job.imageFileName) + token + text(job.imageExtension);
+    return text(job.imageDir) + text(job.imageFileName) + frameToken(job)
+        + text(job.imageExtension);
 }
 
 QString frames(const zkJ::_JobBasics_largePath& job)
@@ -89,32 +94,95 @@ QString waits(const zkJ::_JobBasics_largePath& job)
     return ids.isEmpty() ? QStringLiteral("-") : ids.join(u',');
 }
 
+QString imageSize(const zkJ::_JobBasics_largePath& job)
+{
+    if (job.imageWidth == 0 && job.imageHeight == 0)
+        return QStringLiteral("-");
+    return QStringLiteral("%1x%2").arg(job.imageWidth).arg(job.imageHeight);
+}
+
+/// Node paths can be long; a column keeps their start and their end, which
+/// tell a node apart, so the image path stays in sight.
+QString fitted(const QString& cell)
+{
+    constexpr int MaxCell = 40;
+    constexpr int Tail = 24;
+    if (cell.size() <= MaxCell)
+        return cell;
+    return cell.left(MaxCell - Tail - 3) + QStringLiteral("...") + cell.right(Tail);
+}
+
+struct Column
+{
+    const char* title;
+    QString (*cell)(const zkJ::_JobBasics_largePath&);
+    bool onlyWhenUsed; ///< shown only when some job has a value
+    bool fit; ///< long values are shortened in the middle
+};
+
+const Column Columns[] = {
+    { "preID", [](const zkJ::_JobBasics_largePath& j) { return QString::number(j.preID); }, false,
+        false },
+    { "waits", waits, false, false },
+    { "application", [](const zkJ::_JobBasics_largePath& j) { return text(j.renderApp.appName); },
+        false, false },
+    { "renderer", [](const zkJ::_JobBasics_largePath& j) { return text(j.renderApp.rendererName); },
+        false, false },
+    { "layer", [](const zkJ::_JobBasics_largePath& j) { return text(j.layer); }, false, true },
+    { "take", [](const zkJ::_JobBasics_largePath& j) { return text(j.channel); }, true, true },
+    { "wedge", [](const zkJ::_JobBasics_largePath& j) { return text(j.sceneState); }, true, true },
+    { "camera", [](const zkJ::_JobBasics_largePath& j) { return text(j.camera); }, false, true },
+    { "size", imageSize, false, false },
+    { "frames", frames, false, false },
+    { "image", imagePath, false, false },
+};
+
 void printTable(const HostJobArray& jobs, int result, const QString& scene)
 {
-    const QStringList header
-        = { QStringLiteral("#"), QStringLiteral("preID"), QStringLiteral("waits"),
-              QStringLiteral("application"), QStringLiteral("renderer"), QStringLiteral("layer"),
-              QStringLiteral("camera"), QStringLiteral("frames"), QStringLiteral("image") };
+    QList<const Column*> shown;
+    for (const Column& column : Columns) {
+        bool used = !column.onlyWhenUsed;
+        for (int i = 0; i < jobs.readableCount() && !used; ++i)
+            used = !column.cell(jobs.array->records[i]).isEmpty();
+        if (used)
+            shown.append(&column);
+    }
     QList<QStringList> rows;
-    if (jobs.readableCount() > 0)
+    QList<QStringList> channels; // per row, printed under it
+    if (jobs.readableCount() > 0) {
+        QStringList header { QStringLiteral("#") };
+        for (const Column* column : shown)
+            header.append(QLatin1String(column->title));
         rows.append(header);
+        channels.append(QStringList());
+    }
     for (int i = 0; i < jobs.readableCount(); ++i) {
         const zkJ::_JobBasics_largePath& job = jobs.array->records[i];
-        rows.append({ QString::number(i), QString::number(job.preID), waits(job),
-            text(job.renderApp.appName), text(job.renderApp.rendererName), text(job.layer),
-            text(job.camera), frames(job), imagePath(job) });
+        QStringList row { QString::number(i) };
+        for (const Column* column : shown)
+            row.append(column->fit ? fitted(column->cell(job)) : column->cell(job));
+        rows.append(row);
+        QStringList aovs;
+        for (const zkJ::_channelSlot& slot : job.channels) {
+            if (slot.fileName.length != 0)
+                aovs.append(text(slot.fileName) + frameToken(job) + text(slot.extension));
+        }
+        channels.append(aovs);
     }
-    QList<int> widths(header.size(), 0);
+    QList<int> widths(shown.size() + 1, 0);
     for (const QStringList& row : rows) {
         for (int c = 0; c < row.size(); ++c)
             widths[c] = std::max(widths[c], int(row[c].size()));
     }
     QString out;
-    for (const QStringList& row : rows) {
+    for (int r = 0; r < rows.size(); ++r) {
         QStringList cells;
-        for (int c = 0; c < row.size(); ++c)
-            cells.append(c + 1 < row.size() ? row[c].leftJustified(widths[c]) : row[c]);
+        for (int c = 0; c < rows[r].size(); ++c)
+            cells.append(c + 1 < rows[r].size() ? rows[r][c].leftJustified(widths[c]) : rows[r][c]);
         out += cells.join(QStringLiteral("  ")) + u'\n';
+        const QString indent(widths[0] + 2, u' ');
+        for (const QString& aov : channels[r])
+            out += indent + QStringLiteral("aov ") + aov + u'\n';
     }
     const QString array = jobs.array ? text(jobs.array->arrayText) : QString();
     if (!array.isEmpty())
