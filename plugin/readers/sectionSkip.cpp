@@ -1,14 +1,5 @@
 #include "readerCommon.h"
 
-namespace {
-
-bool isAsciiSpace(char c)
-{
-    return c == ' ' || c == '\t' || c == '\n' || c == '\v' || c == '\f' || c == '\r';
-}
-
-} // namespace
-
 void skipSection(LineSource& in, QString& line)
 {
     // Skipped sections can be long; only a line that may close the section
@@ -16,12 +7,10 @@ void skipSection(LineSource& in, QString& line)
     // decoded.
     QByteArrayView raw;
     while (in.nextRaw(raw)) {
-        qsizetype first = 0;
-        while (first < raw.size() && isAsciiSpace(raw[first]))
-            ++first;
-        if (first == raw.size())
+        const QByteArrayView body = LineSource::trimmedAscii(raw);
+        if (body.isEmpty())
             continue;
-        const char head = raw[first];
+        const char head = body.front();
         if (head != '}' && static_cast<unsigned char>(head) < 0x80)
             continue;
         line = LineSource::decode(raw);

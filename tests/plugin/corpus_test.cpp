@@ -2,6 +2,7 @@
 // folder lives outside the project; without it these tests are skipped.
 #include "plugin/parserState.h"
 #include "plugin/scanner.h"
+#include "support/scanState.h"
 #include "support/sceneLoad.h"
 
 #include <QDir>
@@ -62,7 +63,7 @@ int frangeLines(const QString& path)
     return count;
 }
 
-ScanResult scanFile(const QString& path)
+ScanResult scanFile(const QString& path, ScanMode mode = ScanMode::Marked)
 {
     resetParserState();
     QFile file(path);
@@ -71,7 +72,7 @@ ScanResult scanFile(const QString& path)
     LineSource in(stream);
     LoadContext ctx;
     ctx.scenePath = path;
-    return scanScene(ctx, in);
+    return scanScene(ctx, in, SectionReaders(), mode);
 }
 
 TEST(Corpus, EveryRealSceneLoads)
@@ -82,6 +83,23 @@ TEST(Corpus, EveryRealSceneLoads)
     for (const CorpusScene& scene : scenes) {
         zkJ::_JobBasicsArray jobs;
         EXPECT_EQ(zkTest::loadSceneFile(scene.path, jobs), 1) << qPrintable(scene.path);
+    }
+}
+
+// Real scenes hold binary members, odd blanks and every archive form: the
+// scan that decodes only lines with a rule's bytes must agree with the one
+// that decodes every line.
+TEST(Corpus, MarkedScanAgreesWithEveryLineScan)
+{
+    const QList<CorpusScene> scenes = corpusScenes();
+    if (scenes.isEmpty())
+        GTEST_SKIP() << "no scene corpus beside the project";
+    zkJ::_JobBasicsArray jobs;
+    for (const CorpusScene& scene : scenes) {
+        const QString marked = zkTest::describeScan(scanFile(scene.path), jobs);
+        const QString everyLine
+            = zkTest::describeScan(scanFile(scene.path, ScanMode::EveryLine), jobs);
+        EXPECT_EQ(marked, everyLine) << qPrintable(scene.path);
     }
 }
 
