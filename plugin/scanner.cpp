@@ -297,12 +297,13 @@ Then takeSaveVersion(QStringView line, ScanStep& step)
 
 Then takeGlobalVariable(QStringView line, ScanStep&)
 {
-    if (!mayStartVariableLine(line.front()) || !line.contains(QStringView(u" = ")))
+    // Cheapest test first: archive member headers start with "Hou" too.
+    if (!mayStartVariableLine(line.front())
+        || !(line.startsWith(QStringView(u"set -g "), Qt::CaseInsensitive)
+            || line.startsWith(QStringView(u"Hou"), Qt::CaseInsensitive)))
         return Then::NextRule;
     const qsizetype setAt = findSetGlobal(line);
-    if (setAt >= 0
-        && (line.startsWith(QStringView(u"set -g "), Qt::CaseInsensitive)
-            || line.startsWith(QStringView(u"Hou"), Qt::CaseInsensitive)))
+    if (setAt >= 0 && line.contains(QStringView(u" = ")))
         readGlobalVariable(line, setAt);
     return Then::NextRule;
 }

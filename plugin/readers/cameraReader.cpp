@@ -25,7 +25,8 @@ bool loadCamNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& li
     cam.name.set(nodePathOutObj(line));
     cam.isStereo = cam.name.indexOf(_zkString8_allSize<150>("stereo"), 0) >= 0;
 
-    while (in.next(line)) {
+    // "res\t" is the one keyword; nextLineFor reads past lines no keyword starts.
+    while (nextLineFor(in, line, "r")) {
         if (line.isEmpty() || line.startsWith(u'#'))
             continue;
         if (line.startsWith(u'}')) {

@@ -3,12 +3,39 @@
 // line, and the channel-expression prefix that drivers put around node paths.
 #pragma once
 
+#include "plugin/lineSource.h"
+
 #include <QLatin1String>
 #include <QList>
 #include <QString>
 #include <QStringView>
 
+#include <cstring>
+
 namespace elementSection {
+
+/// The next line that a reader whose keywords start with one of \p leads
+/// (lower-case ASCII letters, any case in the line) may take, decoded and
+/// trimmed into \p line: a line starting with a lead, with "}", or with a
+/// non-ASCII byte (which may fold to a letter or be trimmed). Every other line
+/// is read past undecoded. False, and \p line emptied, at the end of input.
+inline bool nextLineFor(LineSource& in, QString& line, const char* leads)
+{
+    QByteArrayView raw;
+    while (in.nextRaw(raw)) {
+        const QByteArrayView body = LineSource::trimmedAscii(raw);
+        if (body.isEmpty())
+            continue;
+        const unsigned char head = static_cast<unsigned char>(body.front());
+        const char lower = char(head >= 'A' && head <= 'Z' ? head | 0x20 : head);
+        if (head < 0x80 && head != '}' && !(head && std::strchr(leads, lower)))
+            continue;
+        line = LineSource::decode(raw);
+        return true;
+    }
+    line.clear();
+    return false;
+}
 
 /// Keyword at the start of a line, ignoring case.
 inline bool hasKeyword(QStringView line, QLatin1String keyword)

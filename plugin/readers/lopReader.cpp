@@ -11,7 +11,8 @@ bool loadLOPNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& li
     _LOPNode node;
     node.nodePath = nodePathStage(line);
 
-    while (in.next(line)) {
+    // "picture\t" is the one keyword.
+    while (nextLineFor(in, line, "p")) {
         if (line.isEmpty() || line.startsWith(u'#'))
             continue;
         if (line.startsWith(u'}')) {

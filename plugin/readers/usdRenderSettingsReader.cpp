@@ -92,7 +92,8 @@ int load_USD_RS_Node(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString
     _USD_RendersettingNode node;
     node.nodePath = nodePathStage(line);
 
-    while (in.next(line)) {
+    // The first letters of the keywords of RSKeywords besides "}".
+    while (nextLineFor(in, line, "cx")) {
         if (line.isEmpty() || line.startsWith(u'#'))
             continue;
         switch (classify(line)) {

@@ -92,7 +92,8 @@ bool loadWedgeNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& 
     wedge.nodePath = nodePathOutObj(line);
     bool invalid = false;
 
-    while (in.next(line)) {
+    // The first letters of prefix, driver, wedgemethod and the numbered name, steps, range.
+    while (nextLineFor(in, line, "pdwnsr")) {
         if (line.isEmpty() || line.startsWith(u'#'))
             continue;
         if (line.startsWith(u'}')) {
