@@ -19,13 +19,13 @@ constexpr qsizetype ChunkBytes = qsizetype(256) << 10;
 constexpr qsizetype Padding = 72;
 
 // Byte classes of the nibble tables. The two blank classes are exact: a lead
-// is looked for at the first byte that is no blank. A second-byte class is
-// one bit above its first-byte class, so one shift lines them up.
+// is looked for at the first byte that is no blank. A pair's second-byte class
+// is one bit above its first-byte class, so one shift lines them up. Leads
+// have exact byte sets of their own (Marks::leadFirst, leadSecond), since
+// lines start with many letters that a nibble product would let in.
 constexpr std::uint8_t BlankControl = 1; ///< "\t", "\v", "\f"
 constexpr std::uint8_t BlankSpace = 2; ///< " "
-constexpr unsigned LeadFirstBit = 2;
 constexpr unsigned PairFirstBit[2] = { 4, 6 };
-constexpr std::uint8_t LeadClass = 1u << LeadFirstBit;
 constexpr std::uint8_t PairClasses = (1u << PairFirstBit[0]) | (1u << PairFirstBit[1]);
 
 /// One 64-byte block as bit masks, bit i for byte i.
@@ -62,7 +62,10 @@ BlockBits classifyPlain(const char* p, const LineSource::Marks& marks)
         out.newline |= byte == '\n' ? bit : 0;
         out.nonAscii |= byte >= 0x80 ? bit : 0;
         out.blank |= c & (BlankControl | BlankSpace) ? bit : 0;
-        out.lead |= followed & LeadClass ? bit : 0;
+        out.lead
+            |= marks.inLeadSet(marks.leadFirst, p[i]) && marks.inLeadSet(marks.leadSecond, p[i + 1])
+            ? bit
+            : 0;
         out.pair |= followed & PairClasses ? bit : 0;
     }
     return out;
@@ -188,15 +191,22 @@ struct NibbleTables
 {
     __m256i low;
     __m256i high;
+    __m256i leadFirst;
+    __m256i leadSecond;
+    __m256i highBit; ///< 1 << high nibble for ASCII, 0 above
 };
 
-__attribute__((target("avx2"))) inline __m256i classesAvx2(__m256i v, const NibbleTables& t)
+/// The nibble classes of 32 bytes, and in \p lead whether each byte is in \p leadSet.
+__attribute__((target("avx2"))) inline __m256i classesAvx2(
+    __m256i v, const NibbleTables& t, __m256i leadSet, __m256i& lead)
 {
     const __m256i nibble = _mm256_set1_epi8(0x0F);
-    const __m256i lo = _mm256_shuffle_epi8(t.low, _mm256_and_si256(v, nibble));
-    const __m256i hi
-        = _mm256_shuffle_epi8(t.high, _mm256_and_si256(_mm256_srli_epi16(v, 4), nibble));
-    return _mm256_and_si256(lo, hi);
+    const __m256i lowNibbles = _mm256_and_si256(v, nibble);
+    const __m256i highNibbles = _mm256_and_si256(_mm256_srli_epi16(v, 4), nibble);
+    lead = _mm256_and_si256(
+        _mm256_shuffle_epi8(leadSet, lowNibbles), _mm256_shuffle_epi8(t.highBit, highNibbles));
+    return _mm256_and_si256(
+        _mm256_shuffle_epi8(t.low, lowNibbles), _mm256_shuffle_epi8(t.high, highNibbles));
 }
 
 /// The top bit of each byte.
@@ -216,9 +226,11 @@ __attribute__((target("avx2"))) inline HalfBits classifyHalfAvx2(
 {
     const __m256i zero = _mm256_setzero_si256();
     const __m256i v = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p));
-    const __m256i c = classesAvx2(v, t);
-    const __m256i next
-        = classesAvx2(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p + 1)), t);
+    __m256i leadFirst;
+    __m256i leadSecond;
+    const __m256i c = classesAvx2(v, t, t.leadFirst, leadFirst);
+    const __m256i next = classesAvx2(
+        _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p + 1)), t, t.leadSecond, leadSecond);
     // Second-byte classes of the next byte moved onto their first-byte classes;
     // the bit that crosses into the byte below lands on bit 7, which is masked.
     const __m256i followed = _mm256_and_si256(c, _mm256_srli_epi16(next, 1));
@@ -227,7 +239,8 @@ __attribute__((target("avx2"))) inline HalfBits classifyHalfAvx2(
     h.nonAscii = mask(v);
     h.blank = ~mask(_mm256_cmpeq_epi8(
         _mm256_and_si256(c, _mm256_set1_epi8(char(BlankControl | BlankSpace))), zero));
-    h.lead = mask(_mm256_slli_epi16(followed, 7 - int(LeadFirstBit)));
+    h.lead = ~mask(
+        _mm256_or_si256(_mm256_cmpeq_epi8(leadFirst, zero), _mm256_cmpeq_epi8(leadSecond, zero)));
     h.pair = ~mask(
         _mm256_cmpeq_epi8(_mm256_and_si256(followed, _mm256_set1_epi8(char(PairClasses))), zero));
     return h;
@@ -250,7 +263,9 @@ __attribute__((target("avx2"))) inline BlockBits classifyAvx2(const char* p, con
 
 __attribute__((target("avx2"))) qsizetype scanBlocksAvx2(BlockScan& s)
 {
-    const NibbleTables tables { nibbleTable(s.marks.low), nibbleTable(s.marks.high) };
+    const std::array<std::uint8_t, 16> highBit { 1, 2, 4, 8, 16, 32, 64, 128 };
+    const NibbleTables tables { nibbleTable(s.marks.low), nibbleTable(s.marks.high),
+        nibbleTable(s.marks.leadFirst), nibbleTable(s.marks.leadSecond), nibbleTable(highBit) };
     while (s.block < s.size) {
         const qsizetype at = checkBlock(s, classifyAvx2(s.data + s.block, tables));
         if (at >= 0)
@@ -319,7 +334,15 @@ LineSource::Marks::Marks()
 void LineSource::Marks::addLead(const char* text, bool anyCase, const char* alsoHolds)
 {
     addKey(text, anyCase, true).alsoHolds = alsoHolds;
-    add(LeadFirstBit, text, anyCase);
+    for (int i = 0; i < 2; ++i) {
+        const unsigned char c = static_cast<unsigned char>(text[i]);
+        const unsigned char other = (c | 0x20) >= 'a' && (c | 0x20) <= 'z' ? c ^ 0x20 : c;
+        std::array<std::uint8_t, 16>& set = i == 0 ? leadFirst : leadSecond;
+        for (const unsigned char form : { c, anyCase ? other : c }) {
+            if (form < 0x80)
+                set[form & 15] |= std::uint8_t(1u << (form >> 4));
+        }
+    }
 }
 
 void LineSource::Marks::addPair(const char* text, bool anyCase)

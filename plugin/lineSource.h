@@ -77,6 +77,16 @@ public:
         /// holdsAt() then rules out.
         std::array<std::uint8_t, 16> low {};
         std::array<std::uint8_t, 16> high {};
+        /// Exact sets of the ASCII bytes that may start a lead and follow its
+        /// first byte: bit h of set[l] holds byte 16 h + l.
+        std::array<std::uint8_t, 16> leadFirst {};
+        std::array<std::uint8_t, 16> leadSecond {};
+
+        static bool inLeadSet(const std::array<std::uint8_t, 16>& set, char byte)
+        {
+            const unsigned char b = static_cast<unsigned char>(byte);
+            return b < 0x80 && (set[b & 15] >> (b >> 4) & 1u);
+        }
 
     private:
         struct Key

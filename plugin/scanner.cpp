@@ -3,7 +3,9 @@
 #include "plugin/parserState.h"
 #include "shared/zkShared.h"
 
+#include <array>
 #include <cstring>
+#include <string>
 #include <string_view>
 
 namespace {
@@ -33,6 +35,20 @@ const char* const RendererMarkers[] = {
     "/karma",
     "/rendersettings",
 };
+
+/// RendererMarkers in lower case, in the same order.
+const std::array<std::string, std::size(RendererMarkers)>& foldedMarkers()
+{
+    static const auto folded = [] {
+        std::array<std::string, std::size(RendererMarkers)> all;
+        for (size_t i = 0; i < all.size(); ++i) {
+            for (const char* c = RendererMarkers[i]; *c; ++c)
+                all[i] += char(*c >= 'A' && *c <= 'Z' ? *c - 'A' + 'a' : *c);
+        }
+        return all;
+    }();
+    return folded;
+}
 
 /// ".parm" anywhere in \p line; many lines end in "{", few hold a '.'
 /// followed by "parm", and a character search is far cheaper than a
@@ -90,6 +106,10 @@ public:
             != std::string_view::npos;
     }
 
+    bool isAscii() const { return ascii; }
+    /// The ASCII header in lower case; only when isAscii().
+    std::string_view lowered() const { return std::string_view(lower, size_t(line.size())); }
+
 private:
     QStringView line;
     bool ascii = false;
@@ -99,18 +119,36 @@ private:
 
 bool hasRendererMarker(const HeaderText& header)
 {
-    for (const char* marker : RendererMarkers) {
-        if (!header.anyCase(marker))
-            continue;
-        // An Alembic archive only loads geometry; a Karma render-properties
-        // node only describes settings. Neither renders by itself.
-        if (std::strcmp(marker, "/alembic") == 0 && header.anyCase("/alembicarchive"))
-            continue;
-        if (std::strcmp(marker, "/karma") == 0 && header.anyCase("renderproper"))
-            continue;
+    // An Alembic archive only loads geometry; a Karma render-properties node
+    // only describes settings. Neither renders by itself, but the remaining
+    // markers are still tried.
+    const auto counts = [&](const char* marker) {
+        if (std::strcmp(marker, "/alembic") == 0)
+            return !header.anyCase("/alembicarchive");
+        if (std::strcmp(marker, "/karma") == 0)
+            return !header.anyCase("renderproper");
         return true;
+    };
+    if (!header.isAscii()) {
+        for (const char* marker : RendererMarkers) {
+            if (header.anyCase(marker) && counts(marker))
+                return true;
+        }
+        return false;
     }
-    return false;
+    // Each marker but "_geo_" starts with "/": the header's slashes are few,
+    // so each marker is compared at each slash rather than searched for.
+    const std::string_view lower = header.lowered();
+    for (size_t slash = lower.find('/'); slash != std::string_view::npos;
+         slash = lower.find('/', slash + 1)) {
+        for (size_t i = 0; i < std::size(RendererMarkers); ++i) {
+            const std::string& folded = foldedMarkers()[i];
+            if (folded[0] == '/' && lower.compare(slash, folded.size(), folded) == 0
+                && counts(RendererMarkers[i]))
+                return true;
+        }
+    }
+    return header.anyCase("_geo_");
 }
 
 // Case-insensitive searches over every line dominate the scan, so each
