@@ -6,6 +6,10 @@
 // generated scene of that size is measured. Scenes are written to the system
 // temp folder and removed at exit unless ZK_BENCH_KEEP is set. Every figure is
 // compared with `wc -l` on the same, page-cached file, measured in the same run.
+//
+// Three hostile scenes of one line each (ZK_BENCH_LONG_LINE_MB, default 256)
+// show that peak memory does not follow the longest line: NUL bytes, a
+// section header and a "set -g" line.
 #include "bench/sceneGenerator.h"
 #include "plugin/lineSource.h"
 #include "plugin/zkPluginRecords.h"
@@ -23,6 +27,9 @@
 #include <functional>
 #include <memory>
 #include <sys/resource.h>
+#ifdef __GLIBC__
+#    include <malloc.h>
+#endif
 #include <vector>
 
 extern "C" int pLoadSceneFile(zkP::_dataPARS_LoadSceneFile* data);
@@ -76,12 +83,36 @@ bool writeCorpusScene(const QString& path, qint64 targetBytes)
     return out.error() == QFile::NoError;
 }
 
+qint64 longLineMegabytes()
+{
+    const QByteArray text = qgetenv("ZK_BENCH_LONG_LINE_MB");
+    bool ok = false;
+    const qint64 mb = text.toLongLong(&ok);
+    return ok && mb > 0 ? mb : 256;
+}
+
+/// One line of \p head, filler bytes up to \p targetBytes, then \p tail.
+bool writeLongLine(const QString& path, qint64 targetBytes, const QByteArray& head, char filler,
+    const QByteArray& tail)
+{
+    QFile out(path);
+    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate) || out.write(head) < 0)
+        return false;
+    const QByteArray block(1 << 20, filler);
+    for (qint64 left = targetBytes - head.size() - tail.size(); left > 0; left -= block.size()) {
+        if (out.write(block.constData(), qMin<qint64>(left, block.size())) < 0)
+            return false;
+    }
+    return out.write(tail) >= 0 && out.error() == QFile::NoError;
+}
+
 struct Scene
 {
     const char* name;
     QString path;
     qint64 bytes = 0;
     double wcSeconds = 0;
+    bool hostile = false; ///< only the whole load is measured, once
 };
 
 std::vector<Scene>& scenes()
@@ -110,15 +141,25 @@ double wcSeconds(const QString& path)
 }
 
 /// Writes the scene once (or finds it kept from an earlier run) and times `wc -l` on it.
-bool prepare(Scene& scene, const std::function<bool(const QString&, qint64)>& write)
+bool prepare(Scene& scene, const std::function<bool(const QString&, qint64)>& write,
+    qint64 megabytes = sceneMegabytes())
 {
-    if (!QFile::exists(scene.path) && !write(scene.path, sceneMegabytes() << 20)) {
+    if (!QFile::exists(scene.path) && !write(scene.path, megabytes << 20)) {
         QFile::remove(scene.path);
         return false;
     }
     scene.bytes = QFile(scene.path).size();
     scene.wcSeconds = wcSeconds(scene.path);
     return true;
+}
+
+/// Gives memory freed by earlier benchmarks back to the system, so it does
+/// not count as resident in the next one.
+void releaseFreedMemory()
+{
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
 }
 
 /// Starts a new peak of resident memory, so each benchmark reports its own;
@@ -144,28 +185,32 @@ double peakMegabytes()
     return double(usage.ru_maxrss) / 1024.0; // kilobytes on Linux
 }
 
-/// Times \p body per iteration and reports throughput, the ratio to `wc -l`
-/// and the peak resident memory while the benchmark ran.
+/// Times \p body per iteration and reports throughput, the ratio of the
+/// fastest iteration to the fastest `wc -l` on the same file (timed before and
+/// again right after, so both see the same load of the machine) and the peak
+/// resident memory while the benchmark ran.
 template <typename Body>
-void measure(benchmark::State& state, const Scene& scene, Body body)
+void measure(benchmark::State& state, Scene& scene, Body body)
 {
+    releaseFreedMemory();
     resetPeakMemory();
-    double total = 0;
+    double fastest = 1e9;
     for (auto _ : state) {
         const auto start = Clock::now();
         body();
         const double elapsed = seconds(start);
         state.SetIterationTime(elapsed);
-        total += elapsed;
+        fastest = std::min(fastest, elapsed);
     }
-    state.SetBytesProcessed(int64_t(scene.bytes) * state.iterations());
-    const double perIteration = total / double(state.iterations());
-    state.counters["x_wc_l"] = scene.wcSeconds > 0 ? perIteration / scene.wcSeconds : 0;
-    state.counters["wc_l_s"] = scene.wcSeconds;
     state.counters["peak_MB"] = peakMegabytes();
+    scene.wcSeconds = std::min(scene.wcSeconds, wcSeconds(scene.path));
+    state.SetBytesProcessed(int64_t(scene.bytes) * state.iterations());
+    state.counters["fastest_s"] = fastest;
+    state.counters["wc_l_s"] = scene.wcSeconds;
+    state.counters["x_wc_l"] = scene.wcSeconds > 0 ? fastest / scene.wcSeconds : 0;
 }
 
-void loadScene(benchmark::State& state, const Scene& scene)
+void loadScene(benchmark::State& state, Scene& scene)
 {
     auto jobs = std::make_unique<zkJ::_JobBasicsArray>();
     auto sceneFile = std::make_unique<_zkString<500>>();
@@ -183,7 +228,7 @@ void loadScene(benchmark::State& state, const Scene& scene)
 }
 
 /// The line source as the scanner's slowest path uses it: every raw line, no decoding.
-void lineSourceRaw(benchmark::State& state, const Scene& scene)
+void lineSourceRaw(benchmark::State& state, Scene& scene)
 {
     qint64 lines = 0;
     measure(state, scene, [&] {
@@ -200,7 +245,7 @@ void lineSourceRaw(benchmark::State& state, const Scene& scene)
 }
 
 /// The line source as a reader that decodes everything uses it.
-void lineSourceDecoded(benchmark::State& state, const Scene& scene)
+void lineSourceDecoded(benchmark::State& state, Scene& scene)
 {
     measure(state, scene, [&] {
         QFile file(scene.path);
@@ -213,7 +258,7 @@ void lineSourceDecoded(benchmark::State& state, const Scene& scene)
 }
 
 /// The plain Qt way, for comparison: a text-mode file read line by line.
-void textModeReadLine(benchmark::State& state, const Scene& scene)
+void textModeReadLine(benchmark::State& state, Scene& scene)
 {
     measure(state, scene, [&] {
         QFile file(scene.path);
@@ -224,9 +269,11 @@ void textModeReadLine(benchmark::State& state, const Scene& scene)
     });
 }
 
-void registerScene(const Scene& scene)
+/// Registers one benchmark for every scene, scene by scene; whole loads come
+/// first, so their peak memory is not that of a benchmark before them.
+void registerBenchmarks(std::vector<Scene>& all)
 {
-    using Function = void (*)(benchmark::State&, const Scene&);
+    using Function = void (*)(benchmark::State&, Scene&);
     const struct
     {
         const char* name;
@@ -239,14 +286,20 @@ void registerScene(const Scene& scene)
         { "TextModeReadLine", textModeReadLine, true },
     };
     for (const auto& b : benchmarks) {
-        const std::string name = std::string(b.name) + "/" + scene.name;
-        auto* registered = benchmark::RegisterBenchmark(name.c_str(), b.function, scene)
-                               ->UseManualTime()
-                               ->Unit(benchmark::kMillisecond);
-        if (b.once)
-            registered->Iterations(1);
-        else
-            registered->MinTime(2.0);
+        for (Scene& scene : all) {
+            if (scene.hostile && b.function != loadScene)
+                continue;
+            const std::string name = std::string(b.name) + "/" + scene.name;
+            Scene* target = &scene;
+            auto* registered = benchmark::RegisterBenchmark(
+                name.c_str(), [b, target](benchmark::State& state) { b.function(state, *target); })
+                                   ->UseManualTime()
+                                   ->Unit(benchmark::kMillisecond);
+            if (b.once || scene.hostile)
+                registered->Iterations(1);
+            else
+                registered->MinTime(2.0);
+        }
     }
 }
 
@@ -272,8 +325,30 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "cannot write %s\n", qPrintable(scenes().back().path));
         return 1;
     }
-    for (const Scene& scene : scenes())
-        registerScene(scene);
+    const QString lineSize = QString::number(longLineMegabytes());
+    const struct
+    {
+        const char* name;
+        QByteArray head;
+        char filler;
+        QByteArray tail;
+    } longLines[] = {
+        { "nul-line", QByteArray(), '\0', QByteArray() },
+        { "header-line", "obj/geo1/", 'a', ".parm {\n" },
+        { "set-line", "set -g X = '", 'a', "'\n" },
+    };
+    for (const auto& l : longLines) {
+        Scene scene { l.name,
+            temp.filePath(
+                QStringLiteral("zkScanBench_%1_%2MB.hip").arg(QLatin1String(l.name), lineSize)) };
+        scene.hostile = true;
+        const auto write = [&](const QString& path, qint64 bytes) {
+            return writeLongLine(path, bytes, l.head, l.filler, l.tail);
+        };
+        if (prepare(scene, write, longLineMegabytes()))
+            scenes().push_back(scene);
+    }
+    registerBenchmarks(scenes());
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     if (qEnvironmentVariableIsEmpty("ZK_BENCH_KEEP")) {
