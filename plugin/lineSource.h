@@ -24,7 +24,18 @@
 /// so the device is read in chunks of raw bytes, each chunk is searched for
 /// line ends 64 bytes at a time, and a line is decoded only when someone asks
 /// for its text. The scanner goes further and asks only for the lines that
-/// hold one of its marks (nextMarked).
+/// hold one of its marks (nextMarked). A reader's line loop rejects most
+/// lines on their first visible byte and decodes the rest:
+///
+///     QByteArrayView raw;
+///     while (in.nextRaw(raw)) {
+///         const QByteArrayView body = LineSource::trimmedAscii(raw);
+///         if (body.isEmpty() || (body.front() != '}' && !mayStartKeyword(body.front())))
+///             continue; // mayStartKeyword must pass every byte above 0x7F
+///         const QString line = LineSource::decode(raw);
+///         ...
+///
+/// (elementSection::nextLineFor does this for keywords given by their first letters.)
 class LineSource
 {
 public:
