@@ -10,10 +10,6 @@
 
 namespace {
 
-/// Bytes read per chunk: large enough that the per-call cost vanishes, small
-/// enough that a chunk is still in the second-level cache when it is searched.
-constexpr qsizetype ChunkBytes = qsizetype(256) << 10;
-
 /// Zero bytes kept behind the input, so a 64-byte block (and the byte after
 /// it) may be read from any byte of it.
 constexpr qsizetype Padding = 72;
@@ -113,7 +109,6 @@ struct BlockScan
 {
     const char* data;
     qsizetype size;
-    bool more; ///< input may follow the buffer
     const LineSource::Marks& marks;
     qsizetype block; ///< start of the block to look at next
     MarkScan scan;
@@ -131,8 +126,8 @@ __attribute__((always_inline)) inline qsizetype checkBlock(BlockScan& s, const B
         const unsigned i = lowestBit(candidates);
         const qsizetype at = s.block + i;
         const quint64 bit = quint64(1) << i;
-        if (((m.lead & bit) && s.marks.holdsAt(s.data + at, s.size - at, s.more, true))
-            || ((m.pair & bit) && s.marks.holdsAt(s.data + at, s.size - at, s.more, false)))
+        if (((m.lead & bit) && s.marks.holdsAt(s.data + at, s.size - at, true))
+            || ((m.pair & bit) && s.marks.holdsAt(s.data + at, s.size - at, false)))
             return at;
     }
     if (s.newline)
@@ -373,20 +368,17 @@ LineSource::Marks::Key& LineSource::Marks::addKey(const char* text, bool anyCase
 
 namespace {
 
-/// Whether the line that goes on at \p p holds \p text; \p available bytes
-/// are known, and when \p more input may follow a line cut off by their end counts.
-bool lineHolds(const char* p, qsizetype available, bool more, const char* text)
+/// Whether the line that goes on at \p p holds \p text within the \p available bytes.
+bool lineHolds(const char* p, qsizetype available, const char* text)
 {
     const void* newline = std::memchr(p, '\n', size_t(available));
-    if (!newline && more)
-        return true;
     const qsizetype length = newline ? static_cast<const char*>(newline) - p : available;
     return std::string_view(p, size_t(length)).find(text) != std::string_view::npos;
 }
 
 } // namespace
 
-bool LineSource::Marks::holdsAt(const char* p, qsizetype available, bool more, bool lead) const
+bool LineSource::Marks::holdsAt(const char* p, qsizetype available, bool lead) const
 {
     // Decoding trims non-ASCII blanks too, and all of them start with one of
     // these bytes; 0xC5 and 0xE2 also start the two characters that fold to
@@ -401,12 +393,8 @@ bool LineSource::Marks::holdsAt(const char* p, qsizetype available, bool more, b
             continue;
         qsizetype i = 0;
         for (; i < key.size; ++i) {
-            if (i == available) {
-                // The key may go on in input not read yet.
-                if (more)
-                    return true;
+            if (i == available)
                 break;
-            }
             const unsigned char c = static_cast<unsigned char>(p[i]);
             const char want = key.text[size_t(i)];
             if (key.anyCase) {
@@ -423,7 +411,7 @@ bool LineSource::Marks::holdsAt(const char* p, qsizetype available, bool more, b
                 break;
             }
         }
-        if (i == key.size && (!key.alsoHolds || lineHolds(p, available, more, key.alsoHolds)))
+        if (i == key.size && (!key.alsoHolds || lineHolds(p, available, key.alsoHolds)))
             return true;
     }
     return false;
@@ -514,7 +502,7 @@ bool LineSource::nextRaw(QByteArrayView& bytes, bool* hasUnderscore)
 bool LineSource::nextMarked(QByteArrayView& bytes, const Marks& marks)
 {
     for (;;) {
-        BlockScan s { buffer.constData(), size, !exhausted, marks, pos, MarkScan() };
+        BlockScan s { buffer.constData(), size, marks, pos, MarkScan() };
         s.scan.lastNewline = pos - 1;
 #ifdef ZK_HAVE_AVX2_PATH
         const qsizetype hit = haveAvx2() ? scanBlocksAvx2(s) : scanBlocksPlain(s);
@@ -577,11 +565,11 @@ void LineSource::dropConsumed()
 
 bool LineSource::readChunk()
 {
-    if (buffer.size() < size + ChunkBytes + Padding)
-        buffer.resize(size + ChunkBytes + Padding);
+    if (buffer.size() < size + LineSource::ChunkBytes + Padding)
+        buffer.resize(size + LineSource::ChunkBytes + Padding);
     const qsizetype before = size;
     if (QIODevice* device = in.device()) {
-        const qint64 got = device->read(buffer.data() + size, ChunkBytes);
+        const qint64 got = device->read(buffer.data() + size, LineSource::ChunkBytes);
         size += got > 0 ? qsizetype(got) : 0;
     } else if (const QString* text = in.string(); text && !started) {
         // A stream over a string: its text is in memory already.

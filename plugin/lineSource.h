@@ -45,6 +45,11 @@ public:
     /// few copies a reader makes of a line stay far below 64 MB.
     static constexpr qsizetype MaxLineBytes = qsizetype(4) << 20;
 
+    /// Bytes read at a time: large enough that the per-call cost vanishes,
+    /// small enough that a chunk is still in the second-level cache when it
+    /// is searched.
+    static constexpr qsizetype ChunkBytes = qsizetype(256) << 10;
+
     /// What makes a line worth handing to the scanner: a key at the line's
     /// first visible byte (a lead, after ASCII blanks) or anywhere in it (a
     /// pair). Every 64-byte block is searched at once for the first two bytes
@@ -58,7 +63,8 @@ public:
     public:
         Marks();
         /// A line whose first visible bytes are \p text (two bytes or more)
-        /// and which, when \p alsoHolds is given, holds those bytes too.
+        /// and which, when \p alsoHolds is given, also holds those bytes
+        /// (exactly) somewhere.
         void addLead(const char* text, bool anyCase, const char* alsoHolds = nullptr);
         /// A line holding \p text (two bytes or more) anywhere; at most two
         /// such texts.
@@ -70,10 +76,10 @@ public:
         void addPair(const char* text, bool anyCase);
 
         /// Whether a key stands at \p p, a lead's at a line's first visible
-        /// byte (a non-ASCII byte always counts there). \p available bytes
-        /// are known; when \p more input may follow them, a key cut off by
-        /// their end counts.
-        bool holdsAt(const char* p, qsizetype available, bool more, bool lead) const;
+        /// byte, within \p available bytes. A key cut off by their end does
+        /// not count: the search takes up an unfinished last line again once
+        /// more input has been read.
+        bool holdsAt(const char* p, qsizetype available, bool lead) const;
 
         /// The classes of \p byte in the nibble tables.
         std::uint8_t classOf(char byte) const

@@ -251,6 +251,25 @@ TEST_P(MarkedLinesTest, EveryLineHoldingAKeyAndNoOther)
     EXPECT_EQ(at, lines.size());
 }
 
+// The end of the first read chunk falls on each byte of a marked line in
+// turn: its leading blanks, its key, a "\r" before its "\n", the "\n".
+TEST_P(MarkedLinesTest, KeysAcrossTheEndOfAChunk)
+{
+    const LineSource::Marks marks = testMarks();
+    for (const QByteArray& line :
+        { QByteArray(" \t frange 1 2\r"), QByteArray("obj/x.parm {\r") }) {
+        for (qsizetype shift = 0; shift <= line.size() + 1; ++shift) {
+            QByteArray text(LineSource::ChunkBytes - shift - 1, 'x');
+            text += "\n" + line + "\nx\n";
+            zkTest::TextLines lines(text);
+            QByteArrayView raw;
+            ASSERT_TRUE(lines.source.nextMarked(raw, marks)) << shift;
+            EXPECT_EQ(raw, line.chopped(1)) << shift;
+            EXPECT_FALSE(lines.source.nextMarked(raw, marks)) << shift;
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(VectorAndPlain, MarkedLinesTest, ::testing::Bool());
 
 } // namespace
