@@ -565,11 +565,11 @@ void LineSource::dropConsumed()
 
 bool LineSource::readChunk()
 {
-    if (buffer.size() < size + LineSource::ChunkBytes + Padding)
-        buffer.resize(size + LineSource::ChunkBytes + Padding);
+    if (buffer.size() < size + ChunkBytes + Padding)
+        buffer.resize(size + ChunkBytes + Padding);
     const qsizetype before = size;
     if (QIODevice* device = in.device()) {
-        const qint64 got = device->read(buffer.data() + size, LineSource::ChunkBytes);
+        const qint64 got = device->read(buffer.data() + size, ChunkBytes);
         size += got > 0 ? qsizetype(got) : 0;
     } else if (const QString* text = in.string(); text && !started) {
         // A stream over a string: its text is in memory already.

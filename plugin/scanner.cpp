@@ -400,7 +400,7 @@ const LineRule LineRules[] = {
     { { { ".parm", ByteKey::Anywhere, false } }, nullptr, takeSection },
 };
 
-/// The marks the line source looks for: the first two bytes of every key.
+/// The keys of every rule, for the line source to look for.
 LineSource::Marks ruleMarks()
 {
     LineSource::Marks marks;

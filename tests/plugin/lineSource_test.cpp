@@ -70,22 +70,6 @@ TEST(LineSource, LinesAcrossChunkBoundariesStayWhole)
     EXPECT_EQ(readAll(text), expected);
 }
 
-TEST(LineSource, LinesOverTheLimitReadAsEmpty)
-{
-    // A line of exactly the limit is kept; a longer one, over many chunks or
-    // last without "\n", reads as one empty line and the next line is whole.
-    const qsizetype limit = LineSource::MaxLineBytes;
-    const QByteArray text = "}" + QByteArray(limit - 1, 'a') + "\n}" + QByteArray(3 * limit, 'b')
-        + "\r\nframe\r\n}" + QByteArray(limit, 'c') + "\ntake name x\n"
-        + QByteArray(limit + 1, 'd');
-    const QStringList lines = readAll(text);
-    ASSERT_EQ(lines.size(), 6);
-    EXPECT_EQ(lines[0].size(), limit);
-    EXPECT_EQ(lines.mid(1),
-        QStringList({ QString(), QStringLiteral("frame"), QString(), QStringLiteral("take name x"),
-            QString() }));
-}
-
 TEST(LineSource, ViewsAndCopiesShareOnePosition)
 {
     zkTest::TextLines lines("one\ntwo\nthree\n");
@@ -268,6 +252,31 @@ TEST_P(MarkedLinesTest, KeysAcrossTheEndOfAChunk)
             EXPECT_FALSE(lines.source.nextMarked(raw, marks)) << shift;
         }
     }
+}
+
+// A line of exactly the limit is kept; a longer one, over many chunks or last
+// without "\n", reads as one empty line, matching no key, and the next line is whole.
+TEST_P(MarkedLinesTest, LinesOverTheLimitReadAsEmpty)
+{
+    const qsizetype limit = LineSource::MaxLineBytes;
+    const QByteArray text = "frange" + QByteArray(limit - 6, 'a') + "\nfrange"
+        + QByteArray(3 * limit, 'b') + "\r\nframe\r\n}" + QByteArray(limit, 'c')
+        + "\ntake name x\nfrange" + QByteArray(limit, 'd');
+    const QStringList lines = readAll(text);
+    ASSERT_EQ(lines.size(), 6);
+    EXPECT_EQ(lines[0].size(), limit);
+    EXPECT_EQ(lines.mid(1),
+        QStringList({ QString(), QStringLiteral("frame"), QString(), QStringLiteral("take name x"),
+            QString() }));
+
+    zkTest::TextLines source(text);
+    const LineSource::Marks marks = testMarks();
+    QByteArrayView raw;
+    ASSERT_TRUE(source.source.nextMarked(raw, marks));
+    EXPECT_EQ(raw.size(), limit);
+    ASSERT_TRUE(source.source.nextMarked(raw, marks));
+    EXPECT_EQ(raw, "take name x");
+    EXPECT_FALSE(source.source.nextMarked(raw, marks));
 }
 
 INSTANTIATE_TEST_SUITE_P(VectorAndPlain, MarkedLinesTest, ::testing::Bool());
