@@ -1,8 +1,15 @@
-// Scan speed of whole scene loads on a generated production-sized scene.
+// Scan speed of whole scene loads, on real text and on a generated scene.
 //
-// ZK_BENCH_SCENE_MB sets the scene size (default 256); the scene is written
-// to the system temp folder once and removed at exit unless ZK_BENCH_KEEP is
-// set. Every figure is compared with `wc -l` on the same, page-cached file.
+// The real-text scene is the scenes of the corpus beside the project
+// (ZK_BENCH_CORPUS overrides the folder) concatenated in manifest order until
+// the size passes ZK_BENCH_SCENE_MB (default 1024); without a corpus only the
+// generated scene of that size is measured. Scenes are written to the system
+// temp folder and removed at exit unless ZK_BENCH_KEEP is set. Every figure is
+// compared with `wc -l` on the same, page-cached file, measured in the same run.
+//
+// Three hostile scenes of one line each (ZK_BENCH_LONG_LINE_MB, default 256)
+// show that peak memory does not follow the longest line: NUL bytes, a
+// section header and a "set -g" line.
 #include "bench/sceneGenerator.h"
 #include "plugin/lineSource.h"
 #include "plugin/zkPluginRecords.h"
@@ -17,8 +24,13 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <sys/resource.h>
+#ifdef __GLIBC__
+#    include <malloc.h>
+#endif
+#include <vector>
 
 extern "C" int pLoadSceneFile(zkP::_dataPARS_LoadSceneFile* data);
 
@@ -31,22 +43,82 @@ qint64 sceneMegabytes()
     const QByteArray text = qgetenv("ZK_BENCH_SCENE_MB");
     bool ok = false;
     const qint64 mb = text.toLongLong(&ok);
+    return ok && mb > 0 ? mb : 1024;
+}
+
+QString corpusDir()
+{
+    const QString overridden = qEnvironmentVariable("ZK_BENCH_CORPUS");
+    return overridden.isEmpty() ? QStringLiteral(ZK_CORPUS_DIR) : overridden;
+}
+
+/// The corpus scenes in manifest order, end to end, repeated until the file
+/// passes \p targetBytes. False when there is no corpus or nothing to read.
+bool writeCorpusScene(const QString& path, qint64 targetBytes)
+{
+    const QDir corpus(corpusDir());
+    QFile manifest(corpus.filePath(QStringLiteral("MANIFEST.tsv")));
+    if (!manifest.open(QIODevice::ReadOnly))
+        return false;
+    QStringList scenes;
+    manifest.readLine(); // column names
+    while (!manifest.atEnd()) {
+        const QByteArray row = manifest.readLine();
+        const QByteArray relative = row.left(row.indexOf('\t'));
+        if (!relative.trimmed().isEmpty())
+            scenes.append(corpus.filePath(QString::fromUtf8(relative)));
+    }
+    QFile out(path);
+    if (scenes.isEmpty() || !out.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return false;
+    while (out.size() < targetBytes) {
+        for (const QString& scene : scenes) {
+            QFile in(scene);
+            if (!in.open(QIODevice::ReadOnly) || out.write(in.readAll()) < 0)
+                return false;
+            if (out.size() >= targetBytes)
+                break;
+        }
+    }
+    return out.error() == QFile::NoError;
+}
+
+qint64 longLineMegabytes()
+{
+    const QByteArray text = qgetenv("ZK_BENCH_LONG_LINE_MB");
+    bool ok = false;
+    const qint64 mb = text.toLongLong(&ok);
     return ok && mb > 0 ? mb : 256;
 }
 
-QString scenePath()
+/// One line of \p head, filler bytes up to \p targetBytes, then \p tail.
+bool writeLongLine(const QString& path, qint64 targetBytes, const QByteArray& head, char filler,
+    const QByteArray& tail)
 {
-    static const QString path = [] {
-        const QString p
-            = QDir(QDir::tempPath())
-                  .filePath(QStringLiteral("zkScanBench_%1MB.hip").arg(sceneMegabytes()));
-        if (!QFile::exists(p) && !writeBenchScene(p, sceneMegabytes() << 20)) {
-            std::fprintf(stderr, "cannot write %s\n", qPrintable(p));
-            std::exit(1);
-        }
-        return p;
-    }();
-    return path;
+    QFile out(path);
+    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate) || out.write(head) < 0)
+        return false;
+    const QByteArray block(1 << 20, filler);
+    for (qint64 left = targetBytes - head.size() - tail.size(); left > 0; left -= block.size()) {
+        if (out.write(block.constData(), qMin<qint64>(left, block.size())) < 0)
+            return false;
+    }
+    return out.write(tail) >= 0 && out.error() == QFile::NoError;
+}
+
+struct Scene
+{
+    const char* name;
+    QString path;
+    qint64 bytes = 0;
+    double wcSeconds = 0;
+    bool hostile = false; ///< only the whole load is measured, once
+};
+
+std::vector<Scene>& scenes()
+{
+    static std::vector<Scene> list;
+    return list;
 }
 
 double seconds(Clock::time_point start)
@@ -55,66 +127,99 @@ double seconds(Clock::time_point start)
 }
 
 /// Best of three `wc -l` runs; the first also warms the page cache.
-double wcSeconds()
+double wcSeconds(const QString& path)
 {
-    static const double best = [] {
-        const QByteArray command = "wc -l '" + QFile::encodeName(scenePath()) + "' > /dev/null";
-        double fastest = 1e9;
-        for (int i = 0; i < 3; ++i) {
-            const auto start = Clock::now();
-            if (std::system(command.constData()) != 0)
-                return 0.0;
-            fastest = std::min(fastest, seconds(start));
-        }
-        return fastest;
-    }();
-    return best;
+    const QByteArray command = "wc -l '" + QFile::encodeName(path) + "' > /dev/null";
+    double fastest = 1e9;
+    for (int i = 0; i < 3; ++i) {
+        const auto start = Clock::now();
+        if (std::system(command.constData()) != 0)
+            return 0.0;
+        fastest = std::min(fastest, seconds(start));
+    }
+    return fastest;
 }
 
+/// Writes the scene once (or finds it kept from an earlier run) and times `wc -l` on it.
+bool prepare(Scene& scene, const std::function<bool(const QString&, qint64)>& write,
+    qint64 megabytes = sceneMegabytes())
+{
+    if (!QFile::exists(scene.path) && !write(scene.path, megabytes << 20)) {
+        QFile::remove(scene.path);
+        return false;
+    }
+    scene.bytes = QFile(scene.path).size();
+    scene.wcSeconds = wcSeconds(scene.path);
+    return true;
+}
+
+/// Gives memory freed by earlier benchmarks back to the system, so it does
+/// not count as resident in the next one.
+void releaseFreedMemory()
+{
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
+
+/// Starts a new peak of resident memory, so each benchmark reports its own;
+/// false where the kernel offers no reset.
+bool resetPeakMemory()
+{
+    QFile clearRefs(QStringLiteral("/proc/self/clear_refs"));
+    return clearRefs.open(QIODevice::WriteOnly) && clearRefs.write("5") == 1;
+}
+
+/// Peak resident memory since the last reset (VmHWM), else since the process started.
 double peakMegabytes()
 {
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& line : status.readAll().split('\n')) {
+            if (line.startsWith("VmHWM:"))
+                return line.mid(6).trimmed().split(' ').first().toDouble() / 1024.0;
+        }
+    }
     rusage usage {};
     getrusage(RUSAGE_SELF, &usage);
     return double(usage.ru_maxrss) / 1024.0; // kilobytes on Linux
 }
 
-qint64 sceneBytes()
-{
-    return QFile(scenePath()).size();
-}
-
-/// Times \p body per iteration and reports throughput, the ratio to `wc -l`
-/// and the process's peak resident memory.
+/// Times \p body per iteration and reports throughput, the ratio of the
+/// fastest iteration to the fastest `wc -l` on the same file (timed before and
+/// again right after, so both see the same load of the machine) and the peak
+/// resident memory while the benchmark ran.
 template <typename Body>
-void measure(benchmark::State& state, Body body)
+void measure(benchmark::State& state, Scene& scene, Body body)
 {
-    const qint64 bytes = sceneBytes();
-    const double wc = wcSeconds();
-    double total = 0;
+    releaseFreedMemory();
+    resetPeakMemory();
+    double fastest = 1e9;
     for (auto _ : state) {
         const auto start = Clock::now();
         body();
         const double elapsed = seconds(start);
         state.SetIterationTime(elapsed);
-        total += elapsed;
+        fastest = std::min(fastest, elapsed);
     }
-    state.SetBytesProcessed(int64_t(bytes) * state.iterations());
-    const double perIteration = total / double(state.iterations());
-    state.counters["x_wc_l"] = wc > 0 ? perIteration / wc : 0;
-    state.counters["wc_l_s"] = wc;
     state.counters["peak_MB"] = peakMegabytes();
+    scene.wcSeconds = std::min(scene.wcSeconds, wcSeconds(scene.path));
+    state.SetBytesProcessed(int64_t(scene.bytes) * state.iterations());
+    state.counters["fastest_s"] = fastest;
+    state.counters["wc_l_s"] = scene.wcSeconds;
+    state.counters["x_wc_l"] = scene.wcSeconds > 0 ? fastest / scene.wcSeconds : 0;
 }
 
-void BM_LoadScene(benchmark::State& state)
+void loadScene(benchmark::State& state, Scene& scene)
 {
     auto jobs = std::make_unique<zkJ::_JobBasicsArray>();
     auto sceneFile = std::make_unique<_zkString<500>>();
-    sceneFile->set(scenePath());
+    sceneFile->set(scene.path);
     auto settings = std::make_unique<zkP::_submitterSettings>();
     *settings = {};
     zkP::_dataPARS_LoadSceneFile data { sceneFile.get(), jobs.get(), settings.get() };
     int result = 0;
-    measure(state, [&] {
+    measure(state, scene, [&] {
         jobs->clear();
         result = pLoadSceneFile(&data);
     });
@@ -122,29 +227,28 @@ void BM_LoadScene(benchmark::State& state)
         state.SkipWithError("the load did not return 1");
 }
 
-/// The line source as the scanner uses it: raw lines, no decoding.
-void BM_LineSourceRaw(benchmark::State& state)
+/// The line source as the scanner's slowest path uses it: every raw line, no decoding.
+void lineSourceRaw(benchmark::State& state, Scene& scene)
 {
     qint64 lines = 0;
-    measure(state, [&] {
-        QFile file(scenePath());
+    measure(state, scene, [&] {
+        QFile file(scene.path);
         file.open(QIODevice::ReadOnly);
         QTextStream stream(&file);
         LineSource source(stream);
         QByteArrayView line;
-        bool hasUnderscore = false;
         lines = 0;
-        while (source.nextRaw(line, &hasUnderscore))
+        while (source.nextRaw(line))
             ++lines;
     });
     state.counters["lines"] = double(lines);
 }
 
-/// The line source as the readers use it: every line decoded and trimmed.
-void BM_LineSourceDecoded(benchmark::State& state)
+/// The line source as a reader that decodes everything uses it.
+void lineSourceDecoded(benchmark::State& state, Scene& scene)
 {
-    measure(state, [&] {
-        QFile file(scenePath());
+    measure(state, scene, [&] {
+        QFile file(scene.path);
         file.open(QIODevice::ReadOnly);
         QTextStream stream(&file);
         LineSource source(stream);
@@ -154,10 +258,10 @@ void BM_LineSourceDecoded(benchmark::State& state)
 }
 
 /// The plain Qt way, for comparison: a text-mode file read line by line.
-void BM_TextModeReadLine(benchmark::State& state)
+void textModeReadLine(benchmark::State& state, Scene& scene)
 {
-    measure(state, [&] {
-        QFile file(scenePath());
+    measure(state, scene, [&] {
+        QFile file(scene.path);
         file.open(QIODevice::ReadOnly | QIODevice::Text);
         QTextStream stream(&file);
         QString line;
@@ -165,22 +269,91 @@ void BM_TextModeReadLine(benchmark::State& state)
     });
 }
 
-} // namespace
+/// Registers one benchmark for every scene, scene by scene; whole loads come
+/// first, so their peak memory is not that of a benchmark before them.
+void registerBenchmarks(std::vector<Scene>& all)
+{
+    using Function = void (*)(benchmark::State&, Scene&);
+    const struct
+    {
+        const char* name;
+        Function function;
+        bool once;
+    } benchmarks[] = {
+        { "LoadScene", loadScene, false },
+        { "LineSourceRaw", lineSourceRaw, false },
+        { "LineSourceDecoded", lineSourceDecoded, true },
+        { "TextModeReadLine", textModeReadLine, true },
+    };
+    for (const auto& b : benchmarks) {
+        for (Scene& scene : all) {
+            if (scene.hostile && b.function != loadScene)
+                continue;
+            const std::string name = std::string(b.name) + "/" + scene.name;
+            Scene* target = &scene;
+            auto* registered = benchmark::RegisterBenchmark(
+                name.c_str(), [b, target](benchmark::State& state) { b.function(state, *target); })
+                                   ->UseManualTime()
+                                   ->Unit(benchmark::kMillisecond);
+            if (b.once || scene.hostile)
+                registered->Iterations(1);
+            else
+                registered->MinTime(2.0);
+        }
+    }
+}
 
-BENCHMARK(BM_LoadScene)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(2.0);
-BENCHMARK(BM_LineSourceRaw)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(2.0);
-BENCHMARK(BM_LineSourceDecoded)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(2.0);
-BENCHMARK(BM_TextModeReadLine)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(1);
+} // namespace
 
 int main(int argc, char** argv)
 {
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
-    scenePath();
+    const QDir temp(QDir::tempPath());
+    const QString size = QString::number(sceneMegabytes());
+    scenes().push_back(
+        { "real", temp.filePath(QStringLiteral("zkScanBench_real_%1MB.hip").arg(size)) });
+    scenes().push_back(
+        { "generated", temp.filePath(QStringLiteral("zkScanBench_%1MB.hip").arg(size)) });
+    if (!prepare(scenes()[0], writeCorpusScene)) {
+        std::fprintf(
+            stderr, "no corpus at %s: real-text figures skipped\n", qPrintable(corpusDir()));
+        scenes().erase(scenes().begin());
+    }
+    if (!prepare(scenes().back(), writeBenchScene)) {
+        std::fprintf(stderr, "cannot write %s\n", qPrintable(scenes().back().path));
+        return 1;
+    }
+    const QString lineSize = QString::number(longLineMegabytes());
+    const struct
+    {
+        const char* name;
+        QByteArray head;
+        char filler;
+        QByteArray tail;
+    } longLines[] = {
+        { "nul-line", QByteArray(), '\0', QByteArray() },
+        { "header-line", "obj/geo1/", 'a', ".parm {\n" },
+        { "set-line", "set -g X = '", 'a', "'\n" },
+    };
+    for (const auto& l : longLines) {
+        Scene scene { l.name,
+            temp.filePath(
+                QStringLiteral("zkScanBench_%1_%2MB.hip").arg(QLatin1String(l.name), lineSize)) };
+        scene.hostile = true;
+        const auto write = [&](const QString& path, qint64 bytes) {
+            return writeLongLine(path, bytes, l.head, l.filler, l.tail);
+        };
+        if (prepare(scene, write, longLineMegabytes()))
+            scenes().push_back(scene);
+    }
+    registerBenchmarks(scenes());
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
-    if (qEnvironmentVariableIsEmpty("ZK_BENCH_KEEP"))
-        QFile::remove(scenePath());
+    if (qEnvironmentVariableIsEmpty("ZK_BENCH_KEEP")) {
+        for (const Scene& scene : scenes())
+            QFile::remove(scene.path);
+    }
     return 0;
 }

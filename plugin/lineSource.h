@@ -8,21 +8,121 @@
 #include <QStringView>
 #include <QTextStream>
 
+#include <array>
+#include <cstdint>
+
 /// Lines of a scene read through the device behind one QTextStream. Every
 /// "\r" is removed wherever it stands, lines end at "\n", a last line without
 /// "\n" is still read, and each line is decoded as UTF-8 (a leading byte-order
 /// mark is skipped, invalid bytes become U+FFFD) and trimmed at both ends.
 ///
+/// A line longer than MaxLineBytes (after "\r" removal) is read past without
+/// being kept: it reads as an empty line, so it matches nothing, and memory
+/// stays bounded whatever the input holds.
+///
 /// Scenes run to gigabytes and almost every line is rejected after a glance,
-/// so the device is read in large chunks of raw bytes and a line is decoded
-/// only when someone asks for its text: the scanner looks at the raw bytes
-/// first (nextRaw) and decodes the few lines that can matter.
+/// so the device is read in chunks of raw bytes, each chunk is searched for
+/// line ends 64 bytes at a time, and a line is decoded only when someone asks
+/// for its text. The scanner goes further and asks only for the lines that
+/// hold one of its marks (nextMarked). A reader's line loop rejects most
+/// lines on their first visible byte and decodes the rest:
+///
+///     QByteArrayView raw;
+///     while (in.nextRaw(raw)) {
+///         const QByteArrayView body = LineSource::trimmedAscii(raw);
+///         if (body.isEmpty() || (body.front() != '}' && !mayStartKeyword(body.front())))
+///             continue; // mayStartKeyword must pass every byte above 0x7F
+///         const QString line = LineSource::decode(raw);
+///         ...
+///
+/// (elementSection::nextLineFor does this for keywords given by their first letters.)
 class LineSource
 {
 public:
-    explicit LineSource(QTextStream& stream)
-        : in(stream)
-    { }
+    /// Longest line kept, in bytes. The longest line of the real scenes we
+    /// know is a 3 MB stashed-geometry value; 4 MiB keeps every such line
+    /// whole, and a line of that size still decodes to 8 MiB of text, so the
+    /// few copies a reader makes of a line stay far below 64 MB.
+    static constexpr qsizetype MaxLineBytes = qsizetype(4) << 20;
+
+    /// Bytes read at a time: large enough that the per-call cost vanishes,
+    /// small enough that a chunk is still in the second-level cache when it
+    /// is searched.
+    static constexpr qsizetype ChunkBytes = qsizetype(256) << 10;
+
+    /// What makes a line worth handing to the scanner: a key at the line's
+    /// first visible byte (a lead, after ASCII blanks) or anywhere in it (a
+    /// pair). Every 64-byte block is searched at once for the first two bytes
+    /// of the keys; only where they stand is the whole key compared. A line
+    /// whose first visible byte may start a non-ASCII blank is marked too,
+    /// since decoding trims those. Marks are generous: nextMarked may hand
+    /// over a line that the decoded text then rules out, never skip one that
+    /// holds a key.
+    class Marks
+    {
+    public:
+        Marks();
+        /// A line whose first visible bytes are \p text (two bytes or more)
+        /// and which, when \p alsoHolds is given, also holds those bytes
+        /// (exactly) somewhere.
+        void addLead(const char* text, bool anyCase, const char* alsoHolds = nullptr);
+        /// A line holding \p text (two bytes or more) anywhere; at most two
+        /// such texts.
+        ///
+        /// Keys that ignore case do so for ASCII letters and for the two
+        /// non-ASCII characters that fold to one (U+017F to 's', U+212A to
+        /// 'k'), except as a pair's first two bytes. Keys are compared up to
+        /// 32 bytes, which can only mark more lines.
+        void addPair(const char* text, bool anyCase);
+
+        /// Whether a key stands at \p p, a lead's at a line's first visible
+        /// byte, within \p available bytes. A key cut off by their end does
+        /// not count: the search takes up an unfinished last line again once
+        /// more input has been read.
+        bool holdsAt(const char* p, qsizetype available, bool lead) const;
+
+        /// The classes of \p byte in the nibble tables.
+        std::uint8_t classOf(char byte) const
+        {
+            const unsigned char b = static_cast<unsigned char>(byte);
+            return std::uint8_t(low[b & 15] & high[b >> 4]);
+        }
+
+        /// Byte classes as two nibble tables: a byte's classes are
+        /// low[byte & 15] & high[byte >> 4]. Blank classes are exact; the
+        /// mark classes may include bytes that were not asked for, which
+        /// holdsAt() then rules out.
+        std::array<std::uint8_t, 16> low {};
+        std::array<std::uint8_t, 16> high {};
+        /// Exact sets of the ASCII bytes that may start a lead and follow its
+        /// first byte: bit h of set[l] holds byte 16 h + l.
+        std::array<std::uint8_t, 16> leadFirst {};
+        std::array<std::uint8_t, 16> leadSecond {};
+
+        static bool inLeadSet(const std::array<std::uint8_t, 16>& set, char byte)
+        {
+            const unsigned char b = static_cast<unsigned char>(byte);
+            return b < 0x80 && (set[b & 15] >> (b >> 4) & 1u);
+        }
+
+    private:
+        struct Key
+        {
+            std::array<char, 32> text {}; ///< lower case when anyCase
+            qsizetype size = 0;
+            bool anyCase = false;
+            bool lead = false;
+            const char* alsoHolds = nullptr;
+        };
+        void add(unsigned firstBit, const char* text, bool anyCase);
+        Key& addKey(const char* text, bool anyCase, bool lead);
+
+        std::array<Key, 8> keys {};
+        int keyCount = 0;
+        int pairs = 0;
+    };
+
+    explicit LineSource(QTextStream& stream);
 
     /// Reads the next line, decoded and trimmed, into \p line. False (and
     /// \p line emptied) when the input is exhausted.
@@ -32,30 +132,50 @@ public:
     bool nextView(QStringView& line);
 
     /// The next line's raw bytes, "\r" removed, neither decoded nor trimmed;
-    /// valid until the next call of any next*(). Decode with decode().
-    /// \p hasUnderscore, when given, tells whether the line holds a '_': the
-    /// source finds them with one pass over each chunk, far cheaper than a
-    /// search per line, and the scanner needs them to rule lines out.
+    /// valid until the next call of any next*(). Decode with decode(); look
+    /// at the first visible byte with trimmedAscii(). \p hasUnderscore, when
+    /// given, tells whether the line holds a '_'.
     bool nextRaw(QByteArrayView& bytes, bool* hasUnderscore = nullptr);
+
+    /// The next line that holds one of \p marks, as nextRaw(); every line
+    /// before it is read past, and so is a line over MaxLineBytes.
+    bool nextMarked(QByteArrayView& bytes, const Marks& marks);
 
     /// The text of a raw line: UTF-8 decoded and trimmed.
     static QString decode(QByteArrayView raw) { return QString::fromUtf8(raw).trimmed(); }
 
+    /// A raw line without its ASCII blanks at both ends: a reader's line loop
+    /// can reject most lines on front() without decoding them. When the first
+    /// (or last) byte left is not ASCII, only the decoded text tells where the
+    /// line starts (or ends): non-ASCII blanks are trimmed there too.
+    static QByteArrayView trimmedAscii(QByteArrayView raw);
+
     bool atEnd();
 
+    /// Whether lines are searched with AVX2 where the processor has it (the
+    /// default) or byte by byte, as on processors without it. For tests and
+    /// benchmarks; affects every line source.
+    static void useVectorSearch(bool on);
+
 private:
-    bool nextLine(QByteArrayView& bytes);
     /// Appends the next chunk of the input to the unread bytes; false when
     /// there is nothing more.
     bool fill();
+    bool readChunk();
+    void dropConsumed();
+    /// Index of the first "\n" at or after \p from, or -1 within the buffer.
+    qsizetype findNewline(qsizetype from);
+    /// Hands out the line [pos, end) and moves past its "\n".
+    QByteArrayView take(qsizetype end);
 
     QTextStream& in;
+    /// The unread bytes and some consumed ones before them, then Padding
+    /// zero bytes so 64-byte blocks may be read past the end.
     QByteArray buffer;
+    qsizetype size = 0; ///< bytes of input in buffer
     QString decoded; ///< backing text of the last nextView()
-    qsizetype pos = 0; ///< start of the unread bytes in buffer
+    qsizetype pos = 0; ///< start of the unread bytes in buffer, always a line start
     qsizetype searched = 0; ///< no "\n" stands between pos and this index
-    qsizetype underscore = -1; ///< a '_' at or after pos, or -1 when none is known
-    qsizetype underscoreSearched = 0; ///< no '_' stands between pos and this index
     bool started = false;
     bool exhausted = false;
 };

@@ -3,7 +3,9 @@
 #include "plugin/parserState.h"
 #include "shared/zkShared.h"
 
+#include <array>
 #include <cstring>
+#include <string>
 #include <string_view>
 
 namespace {
@@ -33,6 +35,20 @@ const char* const RendererMarkers[] = {
     "/karma",
     "/rendersettings",
 };
+
+/// RendererMarkers in lower case, in the same order.
+const std::array<std::string, std::size(RendererMarkers)>& foldedMarkers()
+{
+    static const auto folded = [] {
+        std::array<std::string, std::size(RendererMarkers)> all;
+        for (size_t i = 0; i < all.size(); ++i) {
+            for (const char* c = RendererMarkers[i]; *c; ++c)
+                all[i] += char(*c >= 'A' && *c <= 'Z' ? *c - 'A' + 'a' : *c);
+        }
+        return all;
+    }();
+    return folded;
+}
 
 /// ".parm" anywhere in \p line; many lines end in "{", few hold a '.'
 /// followed by "parm", and a character search is far cheaper than a
@@ -90,6 +106,10 @@ public:
             != std::string_view::npos;
     }
 
+    bool isAscii() const { return ascii; }
+    /// The ASCII header in lower case; only when isAscii().
+    std::string_view lowered() const { return std::string_view(lower, size_t(line.size())); }
+
 private:
     QStringView line;
     bool ascii = false;
@@ -99,18 +119,36 @@ private:
 
 bool hasRendererMarker(const HeaderText& header)
 {
-    for (const char* marker : RendererMarkers) {
-        if (!header.anyCase(marker))
-            continue;
-        // An Alembic archive only loads geometry; a Karma render-properties
-        // node only describes settings. Neither renders by itself.
-        if (std::strcmp(marker, "/alembic") == 0 && header.anyCase("/alembicarchive"))
-            continue;
-        if (std::strcmp(marker, "/karma") == 0 && header.anyCase("renderproper"))
-            continue;
+    // An Alembic archive only loads geometry; a Karma render-properties node
+    // only describes settings. Neither renders by itself, but the remaining
+    // markers are still tried.
+    const auto counts = [&](const char* marker) {
+        if (std::strcmp(marker, "/alembic") == 0)
+            return !header.anyCase("/alembicarchive");
+        if (std::strcmp(marker, "/karma") == 0)
+            return !header.anyCase("renderproper");
         return true;
+    };
+    if (!header.isAscii()) {
+        for (const char* marker : RendererMarkers) {
+            if (header.anyCase(marker) && counts(marker))
+                return true;
+        }
+        return false;
     }
-    return false;
+    // Each marker but "_geo_" starts with "/": the header's slashes are few,
+    // so each marker is compared at each slash rather than searched for.
+    const std::string_view lower = header.lowered();
+    for (size_t slash = lower.find('/'); slash != std::string_view::npos;
+         slash = lower.find('/', slash + 1)) {
+        for (size_t i = 0; i < std::size(RendererMarkers); ++i) {
+            const std::string& folded = foldedMarkers()[i];
+            if (folded[0] == '/' && lower.compare(slash, folded.size(), folded) == 0
+                && counts(RendererMarkers[i]))
+                return true;
+        }
+    }
+    return header.anyCase("_geo_");
 }
 
 // Case-insensitive searches over every line dominate the scan, so each
@@ -156,95 +194,6 @@ bool mayStartVariableLine(QChar first)
 {
     const char16_t c = first.unicode();
     return c == u's' || c == u'S' || c == u'h' || c == u'H' || c == u'\u017F';
-}
-
-bool isAsciiSpace(char c)
-{
-    return c == ' ' || c == '\t' || c == '\n' || c == '\v' || c == '\f' || c == '\r';
-}
-
-char asciiLower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c;
-}
-
-/// Whether \p key (lower-case ASCII) may stand at \p at of \p raw in any
-/// letter case. A byte above 0x7F may be a character that folds to an ASCII
-/// letter, so it counts as a possible match for the exact test to decide.
-bool mayHoldAnyCase(QByteArrayView raw, qsizetype at, const char* key)
-{
-    for (qsizetype k = 0; key[k]; ++k) {
-        if (at + k >= raw.size())
-            return false;
-        const char c = raw[at + k];
-        if (static_cast<unsigned char>(c) >= 0x80)
-            return true;
-        if (asciiLower(c) != key[k])
-            return false;
-    }
-    return true;
-}
-
-/// Whether \p text (a few ASCII bytes) occurs in \p body, exactly. A search
-/// for its first byte and a compare there; Qt's general substring search costs
-/// more to set up than these short lines take to scan.
-bool holdsBytes(QByteArrayView body, const char* text)
-{
-    const size_t n = std::strlen(text);
-    const char* const begin = body.data();
-    const char* const end = begin + body.size();
-    for (const char* p = begin; size_t(end - p) >= n
-         && (p = static_cast<const char*>(std::memchr(p, text[0], size_t(end - p) - n + 1)));
-         ++p) {
-        if (std::memcmp(p, text, n) == 0)
-            return true;
-    }
-    return false;
-}
-
-/// Cheap test on a raw line: false only for lines that no rule of the scan
-/// can take, which are nearly all lines of a scene. Every rule's exact test
-/// runs afterwards on the decoded text, so this only has to be generous.
-/// A line whose first or last visible byte is not ASCII may be trimmed
-/// differently once decoded, so it always passes.
-bool mayMatter(QByteArrayView raw, bool hasUnderscore)
-{
-    qsizetype first = 0;
-    qsizetype last = raw.size() - 1;
-    while (first <= last && isAsciiSpace(raw[first]))
-        ++first;
-    if (first > last)
-        return false;
-    while (isAsciiSpace(raw[last]))
-        --last;
-    const char head = raw[first];
-    const char tail = raw[last];
-    if (static_cast<unsigned char>(head) >= 0x80 || static_cast<unsigned char>(tail) >= 0x80)
-        return true;
-    if (head == '#')
-        return false;
-    const QByteArrayView body = raw.sliced(first, last - first + 1);
-    // "frange", "take name" and section headers are known by their ends.
-    if ((head == 'f' || head == 'F') && mayHoldAnyCase(body, 0, "frange"))
-        return true;
-    if (head == 't' && body.startsWith("take name"))
-        return true;
-    if (tail == '{' && holdsBytes(body, ".parm"))
-        return true;
-    // A variable line starts with "set -g " or "Hou" and holds " = ".
-    if ((mayHoldAnyCase(body, 0, "set -g ") || mayHoldAnyCase(body, 0, "hou"))
-        && body.contains(" = "))
-        return true;
-    if (!hasUnderscore)
-        return false;
-    const char* const begin = body.data();
-    const char* const end = begin + body.size();
-    for (const char* p = begin;
-         (p = static_cast<const char*>(std::memchr(p, '_', size_t(end - p)))); ++p) {
-        if (mayHoldAnyCase(body, p - begin, "_hip_saveversion"))
-            return true;
-    }
-    return false;
 }
 
 void readFrameRange(QStringView line)
@@ -352,6 +301,135 @@ LoadResult readSection(SectionKind kind, const SectionReaders& readers, const Lo
     return LoadOk;
 }
 
+/// What the scan does after a rule has looked at a line.
+enum class Then {
+    NextRule, ///< the line goes on to the rules after this one
+    LineDone,
+    StopScan, ///< a reader's result ends the load
+};
+
+struct ScanStep
+{
+    const LoadContext& ctx;
+    LineSource& in;
+    const SectionReaders& readers;
+    ScanResult& scan;
+    QString& header;
+};
+
+Then takeFrameRange(QStringView line, ScanStep&)
+{
+    // Only "frange" and a blank is the scene's range: node parameters named
+    // "frange" ("frange\t[ 0 ...") would reset every driver's range.
+    if ((line.front().unicode() | 0x20) == u'f'
+        && line.startsWith(QStringView(u"frange "), Qt::CaseInsensitive))
+        readFrameRange(line);
+    return Then::NextRule;
+}
+
+Then takeSaveVersion(QStringView line, ScanStep& step)
+{
+    if (findSaveVersion(line) < 0)
+        return Then::NextRule;
+    readSaveVersion(line, step.scan);
+    return Then::LineDone;
+}
+
+Then takeGlobalVariable(QStringView line, ScanStep&)
+{
+    // Cheapest test first: archive member headers start with "Hou" too.
+    if (!mayStartVariableLine(line.front())
+        || !(line.startsWith(QStringView(u"set -g "), Qt::CaseInsensitive)
+            || line.startsWith(QStringView(u"Hou"), Qt::CaseInsensitive)))
+        return Then::NextRule;
+    const qsizetype setAt = findSetGlobal(line);
+    if (setAt >= 0 && line.contains(QStringView(u" = ")))
+        readGlobalVariable(line, setAt);
+    return Then::NextRule;
+}
+
+Then takeTake(QStringView line, ScanStep& step)
+{
+    if (!line.startsWith(QStringView(u"take name")))
+        return Then::NextRule;
+    readTake(line, step.scan);
+    return Then::LineDone;
+}
+
+Then takeSection(QStringView line, ScanStep& step)
+{
+    const SectionKind kind = sectionKind(line);
+    if (kind == SectionKind::None)
+        return Then::LineDone;
+    step.header = line.toString();
+    const LoadResult result
+        = readSection(kind, step.readers, step.ctx, step.in, step.header, step.scan);
+    if (result == LoadOk)
+        return Then::LineDone;
+    step.scan.result = result;
+    return Then::StopScan;
+}
+
+/// Bytes a raw line must hold for a rule to take it: at the line's first
+/// visible byte, or anywhere (LineSource::Marks tells how case is ignored).
+struct ByteKey
+{
+    enum Place { Lead, Anywhere };
+    const char* text = nullptr;
+    Place place = Lead;
+    bool anyCase = false;
+};
+
+/// One scene-wide rule: the bytes it needs, and its test of the decoded,
+/// trimmed line with what it does there. The bytes only decide whether a line
+/// is decoded; the text test alone decides what the rule takes. A pair key
+/// that ignores case must not start with 's' or 'k', whose non-ASCII forms
+/// the line source does not look for there.
+struct LineRule
+{
+    ByteKey keys[2];
+    /// Bytes a line with a lead key must also hold, exactly; none when null.
+    const char* alsoHolds;
+    Then (*take)(QStringView line, ScanStep& step);
+};
+
+/// In the order the rules look at a line.
+const LineRule LineRules[] = {
+    { { { "frange", ByteKey::Lead, true } }, nullptr, takeFrameRange },
+    { { { "_hip_saveversion", ByteKey::Anywhere, true } }, nullptr, takeSaveVersion },
+    { { { "set -g ", ByteKey::Lead, true }, { "hou", ByteKey::Lead, true } }, " = ",
+        takeGlobalVariable },
+    { { { "take name", ByteKey::Lead, false } }, nullptr, takeTake },
+    { { { ".parm", ByteKey::Anywhere, false } }, nullptr, takeSection },
+};
+
+/// The keys of every rule, for the line source to look for.
+LineSource::Marks ruleMarks()
+{
+    LineSource::Marks marks;
+    for (const LineRule& rule : LineRules) {
+        for (const ByteKey& key : rule.keys) {
+            if (!key.text)
+                continue;
+            if (key.place == ByteKey::Lead)
+                marks.addLead(key.text, key.anyCase, rule.alsoHolds);
+            else
+                marks.addPair(key.text, key.anyCase);
+        }
+    }
+    return marks;
+}
+
+Then applyRules(QStringView line, ScanStep& step)
+{
+    for (const LineRule& rule : LineRules) {
+        const Then then = rule.take(line, step);
+        if (then != Then::NextRule)
+            return then;
+    }
+    return Then::LineDone;
+}
+
 } // namespace
 
 SectionKind sectionKind(QStringView line)
@@ -384,7 +462,8 @@ SectionKind sectionKind(QStringView line)
     return SectionKind::OutNode;
 }
 
-ScanResult scanScene(const LoadContext& ctx, LineSource& in, const SectionReaders& readers)
+ScanResult scanScene(
+    const LoadContext& ctx, LineSource& in, const SectionReaders& readers, ScanMode mode)
 {
     ScanResult scan;
     scan.buildVersionSwitch = ctx.buildVersionSwitch;
@@ -394,51 +473,16 @@ ScanResult scanScene(const LoadContext& ctx, LineSource& in, const SectionReader
     DatabaseDir = slash < 0 ? ctx.scenePath : ctx.scenePath.left(slash + 1);
     takeEnvironment();
 
-    QByteArrayView raw;
-    bool hasUnderscore = false;
-    QString text;
+    static const LineSource::Marks marks = ruleMarks();
     QString header;
-    while (in.nextRaw(raw, &hasUnderscore)) {
-        if (!mayMatter(raw, hasUnderscore))
+    ScanStep step { ctx, in, readers, scan, header };
+    QByteArrayView raw;
+    while (mode == ScanMode::EveryLine ? in.nextRaw(raw) : in.nextMarked(raw, marks)) {
+        const QString text = LineSource::decode(raw);
+        if (text.isEmpty() || text.front() == u'#')
             continue;
-        text = LineSource::decode(raw);
-        const QStringView line(text);
-        if (line.isEmpty() || line.front() == u'#')
-            continue;
-
-        // Only "frange" and a blank is the scene's range: node parameters named
-        // "frange" ("frange\t[ 0 ...") would reset every driver's range.
-        if ((line.front().unicode() | 0x20) == u'f'
-            && line.startsWith(QStringView(u"frange "), Qt::CaseInsensitive))
-            readFrameRange(line);
-
-        if (findSaveVersion(line) >= 0) {
-            readSaveVersion(line, scan);
-            continue;
-        }
-
-        if (mayStartVariableLine(line.front()) && line.contains(QStringView(u" = "))) {
-            const qsizetype setAt = findSetGlobal(line);
-            if (setAt >= 0
-                && (line.startsWith(QStringView(u"set -g "), Qt::CaseInsensitive)
-                    || line.startsWith(QStringView(u"Hou"), Qt::CaseInsensitive)))
-                readGlobalVariable(line, setAt);
-        }
-
-        if (line.startsWith(QStringView(u"take name"))) {
-            readTake(line, scan);
-            continue;
-        }
-
-        const SectionKind kind = sectionKind(line);
-        if (kind == SectionKind::None)
-            continue;
-        header = line.toString();
-        const LoadResult result = readSection(kind, readers, ctx, in, header, scan);
-        if (result != LoadOk) {
-            scan.result = result;
+        if (applyRules(text, step) == Then::StopScan)
             break;
-        }
     }
     return scan;
 }

@@ -61,7 +61,16 @@ struct SectionReaders
     OutReader outNode = loadOutNode;
 };
 
+/// How the scan picks the lines it decodes.
+enum class ScanMode {
+    /// Only lines whose bytes hold what some rule needs: the normal scan.
+    Marked,
+    /// Every line, decoded and tested by every rule: slow, and the reference
+    /// that the marked scan must agree with.
+    EveryLine,
+};
+
 /// Sets DatabaseDir and the "HIP" environment variables, then reads every
 /// line of \p in, updating the module state and calling the readers.
-ScanResult scanScene(
-    const LoadContext& ctx, LineSource& in, const SectionReaders& readers = SectionReaders());
+ScanResult scanScene(const LoadContext& ctx, LineSource& in,
+    const SectionReaders& readers = SectionReaders(), ScanMode mode = ScanMode::Marked);

@@ -2,6 +2,7 @@
 // folder lives outside the project; without it these tests are skipped.
 #include "plugin/parserState.h"
 #include "plugin/scanner.h"
+#include "support/scanState.h"
 #include "support/sceneLoad.h"
 
 #include <QDir>
@@ -49,7 +50,8 @@ QList<CorpusScene> corpusScenes()
     return scenes;
 }
 
-ScanResult scanFile(const QString& path, zkJ::_JobBasicsArray& jobs)
+ScanResult scanFile(
+    const QString& path, zkJ::_JobBasicsArray& jobs, ScanMode mode = ScanMode::Marked)
 {
     resetParserState();
     QFile file(path);
@@ -61,7 +63,7 @@ ScanResult scanFile(const QString& path, zkJ::_JobBasicsArray& jobs)
     LoadContext ctx;
     ctx.data = &data;
     ctx.scenePath = path;
-    return scanScene(ctx, in);
+    return scanScene(ctx, in, SectionReaders(), mode);
 }
 
 // Every real scene loads to jobs a farm can run: each names its application
@@ -93,6 +95,24 @@ TEST(Corpus, EveryRealSceneGivesSaneJobs)
             EXPECT_TRUE(waitedFor->renderApp.rendererName.view().startsWith(u"create"))
                 << "job " << i;
         }
+    }
+}
+
+// Real scenes hold binary members, odd blanks and every archive form: the
+// scan that decodes only lines with a rule's bytes must agree with the one
+// that decodes every line.
+TEST(Corpus, MarkedScanAgreesWithEveryLineScan)
+{
+    const QList<CorpusScene> scenes = corpusScenes();
+    if (scenes.isEmpty())
+        GTEST_SKIP() << "no scene corpus beside the project";
+    for (const CorpusScene& scene : scenes) {
+        zkJ::_JobBasicsArray markedJobs;
+        zkJ::_JobBasicsArray everyLineJobs;
+        const QString marked = zkTest::describeScan(scanFile(scene.path, markedJobs), markedJobs);
+        const QString everyLine = zkTest::describeScan(
+            scanFile(scene.path, everyLineJobs, ScanMode::EveryLine), everyLineJobs);
+        EXPECT_EQ(marked, everyLine) << qPrintable(scene.path);
     }
 }
 

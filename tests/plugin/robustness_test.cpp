@@ -3,6 +3,7 @@
 // the sanitizers, this also catches reads past a buffer.
 #include "plugin/parserState.h"
 #include "plugin/scanner.h"
+#include "support/scanState.h"
 #include "support/textLines.h"
 
 #include <QByteArray>
@@ -43,12 +44,21 @@ const QByteArray ValidScene
       "}\n"
       "out/mantra1.parm {\n"
       "vm_picture\t[ 0\tlocks=0 ]\t(\t\"$HIP/render/\xc3\xa9.$F4.exr\"\t)\n"
-      "}\n";
+      "}\n"
+      // Forms that only the decoded text reveals: a leading no-break space,
+      // U+017F (folds to 's'), blanks the byte search must step over.
+      "\xc2\xa0"
+      "frange 3 9\n"
+      "\xc5\xbf"
+      "et -g X = 'y'\n"
+      " \v\f\tHou set -g Y = 'z'\n"
+      "set -g _HIP_\xc5\xbf"
+      "AVEVERSION = '18.0.1'\n";
 
 class HostileScene : public ::testing::Test
 {
 protected:
-    int scan(const QByteArray& text)
+    int scan(const QByteArray& text, ScanMode mode = ScanMode::Marked)
     {
         resetParserState();
         // A registered driver with a job makes the render-settings reader
@@ -66,12 +76,15 @@ protected:
         LoadContext ctx;
         ctx.data = &record;
         ctx.scenePath = scenePath.toQString();
-        return scanScene(ctx, lines.source).result;
+        const ScanResult result = scanScene(ctx, lines.source, SectionReaders(), mode);
+        state = zkTest::describeScan(result, jobs);
+        return result.result;
     }
 
     zkJ::_JobBasicsArray jobs;
     _zkString<500> scenePath { QStringLiteral("/proj/shot/scene.hip") };
     zkP::_dataPARS_LoadSceneFile record { &scenePath, &jobs, nullptr };
+    QString state; ///< what the last scan left behind
 };
 
 TEST_F(HostileScene, ValidSceneFillsEveryList)
@@ -92,12 +105,14 @@ TEST_F(HostileScene, EveryPrefixScans)
         ASSERT_EQ(scan(ValidScene.left(n)), 1) << "prefix of " << n << " bytes";
 }
 
-TEST_F(HostileScene, DamagedCopiesScan)
+// The scan decodes only lines whose bytes hold what some rule needs; each
+// damaged copy must leave the same state as a scan that decodes every line.
+TEST_F(HostileScene, DamagedCopiesScanAsEveryLineScans)
 {
     // Bytes that steer the readers: line and section ends, brackets, quotes,
-    // tabs, digits, multi-byte starts, and no byte at all.
-    const char steering[] = { '\n', '\r', '{', '}', '(', ')', '"', '\t', ' ', '-', '9', '.', '/',
-        '_', ',', '\0', '\xc3', '\xff', '#' };
+    // blanks, digits, multi-byte starts, and no byte at all.
+    const char steering[] = { '\n', '\r', '{', '}', '(', ')', '"', '\t', '\v', ' ', '-', '9', '.',
+        '/', '_', ',', '\0', '\xc2', '\xc3', '\xc5', '\xe2', '\xa0', '\xff', '#' };
     std::mt19937 rng(20261122);
     for (int round = 0; round < 3000; ++round) {
         QByteArray text = ValidScene;
@@ -118,6 +133,10 @@ TEST_F(HostileScene, DamagedCopiesScan)
             }
         }
         ASSERT_EQ(scan(text), 1) << "round " << round << ": "
+                                 << text.toPercentEncoding().constData();
+        const QString marked = state;
+        scan(text, ScanMode::EveryLine);
+        ASSERT_EQ(marked, state) << "round " << round << ": "
                                  << text.toPercentEncoding().constData();
     }
 }
