@@ -6,6 +6,8 @@
 #include <climits>
 #include <cmath>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /// A renderer's version as the submitter or the scene gives it.
@@ -184,6 +186,12 @@ LoadResult completeJobs(const LoadContext& ctx, const ScanResult& scan)
         [](const _namevalue& a, const _namevalue& b) { return a.name.size() > b.name.size(); });
 
     const RendererVersions versions = rendererVersions(ctx.arguments);
+    // Every "JOB" variable sets the same key in turn: the last one is what stays.
+    const QString* houdiniJob = nullptr;
+    for (const _namevalue& variable : qAsConst(hVariables)) {
+        if (variable.name.compare("JOB"_L1, Qt::CaseInsensitive) == 0)
+            houdiniJob = &variable.value;
+    }
     PreviousJob previous;
     for (int i = 0; i < jobs.count; ++i) {
         zkJ::_JobBasics_largePath* job = jobs.at(i);
@@ -191,10 +199,8 @@ LoadResult completeJobs(const LoadContext& ctx, const ScanResult& scan)
             return LoadNoJobRecord;
         job->renderApp.versionMajor = static_cast<short>(scan.houdiniMajor);
         job->renderApp.setVersionMinor(scan.houdiniMinorForJobs);
-        for (const _namevalue& variable : qAsConst(hVariables)) {
-            if (variable.name.compare(QLatin1String("JOB"), Qt::CaseInsensitive) == 0)
-                job->customDataSet_Str(QStringLiteral("HoudiniJob"), variable.value);
-        }
+        if (houdiniJob)
+            job->customDataSet_Str(QStringLiteral("HoudiniJob"), *houdiniJob);
         completeApplication(*job, previous, ctx, scan, versions);
         if (jobs.count <= 2)
             job->auxByte3 = 1;

@@ -19,6 +19,22 @@ void replaceAny(QString& text, const QString& pattern, const QString& value)
     text.replace(pattern, value, Qt::CaseInsensitive);
 }
 
+/// Whether "$" + \p name or "${" + \p name stands in \p path, ignoring case:
+/// without either, none of a variable's four patterns can match. Paths hold
+/// a few "$" and scenes up to thousands of variables, so this look at each
+/// "$" spares the four searches for nearly every variable.
+bool mayHold(QStringView path, QStringView name)
+{
+    for (qsizetype at = path.indexOf(u'$'); at >= 0; at = path.indexOf(u'$', at + 1)) {
+        QStringView rest = path.mid(at + 1);
+        if (rest.startsWith(name, Qt::CaseInsensitive))
+            return true;
+        if (rest.startsWith(u'{') && rest.mid(1).startsWith(name, Qt::CaseInsensitive))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 QString houdiniNodeName(const QString& nodePath)
@@ -47,9 +63,12 @@ QString replaceHoudiniVariables(QString path, zkJ::_JobBasics_largePath* job,
     replaceAny(path, QStringLiteral("$HIP"), databaseDir);
     replaceAny(path, QStringLiteral("${HIP}"), databaseDir);
 
+    // Every pattern below begins with "$".
+    if (!path.contains(u'$'))
+        return path;
     for (const _namevalue& variable : qAsConst(variables)) {
         // A nameless entry would turn every "$" of the path into its value.
-        if (variable.name.isEmpty())
+        if (variable.name.isEmpty() || !mayHold(path, variable.name))
             continue;
         const QString root = withoutSceneExtensions(variable.value);
         const QString dollar = QLatin1Char('$') + variable.name;
