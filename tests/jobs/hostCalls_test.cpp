@@ -1,6 +1,7 @@
 // The host calls the job methods by their symbols in the plugin library, on
 // records it owns; these tests do the same.
 #include "jobs/ZK_DataTypes_jobs0_Basics.h"
+#include "tools/host/hostRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -14,35 +15,16 @@ using namespace zkJ;
 
 namespace {
 
-class PluginLibrary
+/// A symbol of the plugin library as a function pointer.
+template <typename Fn>
+Fn function(const zkHost::Plugin& lib, const char* symbol)
 {
-public:
-    PluginLibrary()
-        : handle(dlopen(ZK_PLUGIN_PATH, RTLD_NOW | RTLD_LOCAL))
-    { }
-    ~PluginLibrary()
-    {
-        if (handle)
-            dlclose(handle);
-    }
-    PluginLibrary(const PluginLibrary&) = delete;
-    PluginLibrary& operator=(const PluginLibrary&) = delete;
-
-    bool isLoaded() const { return handle != nullptr; }
-
-    template <typename Fn>
-    Fn function(const char* symbol) const
-    {
-        void* p = dlsym(handle, symbol);
-        Fn fn = nullptr;
-        static_assert(sizeof(fn) == sizeof(p), "code and data pointers of one size");
-        std::memcpy(&fn, &p, sizeof(fn));
-        return fn;
-    }
-
-private:
-    void* handle;
-};
+    void* p = dlsym(lib.handle, symbol);
+    Fn fn = nullptr;
+    static_assert(sizeof(fn) == sizeof(p), "code and data pointers of one size");
+    std::memcpy(&fn, &p, sizeof(fn));
+    return fn;
+}
 
 // Member functions take the object as their first argument in the platform's
 // calling convention; a by-value class result travels through a hidden pointer
@@ -56,8 +38,9 @@ using DisplayNameFn = QString (*)(const _JobBasics*);
 
 TEST(HostCalls, ExportedJobMethodsAreVisible)
 {
-    PluginLibrary lib;
-    ASSERT_TRUE(lib.isLoaded()) << dlerror();
+    zkHost::Plugin lib;
+    QString error;
+    ASSERT_TRUE(lib.open(QStringLiteral(ZK_PLUGIN_PATH), error)) << qPrintable(error);
     const char* symbols[] = {
         "_ZNK3zkJ10_JobBasics22exportJobVarList_BasicERKb",
         "_ZNK3zkJ10_JobBasics19getSceneDisplayNameEv",
@@ -73,21 +56,22 @@ TEST(HostCalls, ExportedJobMethodsAreVisible)
         "_ZN3zkJ19log_hasFrameSegmentERKNS_11_LogMessageE",
     };
     for (const char* symbol : symbols)
-        EXPECT_NE(lib.function<void*>(symbol), nullptr) << symbol;
+        EXPECT_NE(function<void*>(lib, symbol), nullptr) << symbol;
 }
 
 TEST(HostCalls, MethodsWorkOnHostOwnedRecords)
 {
-    PluginLibrary lib;
-    ASSERT_TRUE(lib.isLoaded()) << dlerror();
+    zkHost::Plugin lib;
+    QString error;
+    ASSERT_TRUE(lib.open(QStringLiteral(ZK_PLUGIN_PATH), error)) << qPrintable(error);
     const auto exportVars
-        = lib.function<ExportVarsFn>("_ZNK3zkJ10_JobBasics22exportJobVarList_BasicERKb");
+        = function<ExportVarsFn>(lib, "_ZNK3zkJ10_JobBasics22exportJobVarList_BasicERKb");
     const auto setCustom
-        = lib.function<SetCustomFn>("_ZN3zkJ17_JobSettingsScene17customDataSet_StrERK7QStringS3_");
-    const auto split
-        = lib.function<SplitFn>("_ZN3zkJ20_JobBasics_largePath29splitImageFileInto_DirFileExtERKb");
+        = function<SetCustomFn>(lib, "_ZN3zkJ17_JobSettingsScene17customDataSet_StrERK7QStringS3_");
+    const auto split = function<SplitFn>(
+        lib, "_ZN3zkJ20_JobBasics_largePath29splitImageFileInto_DirFileExtERKb");
     const auto displayName
-        = lib.function<DisplayNameFn>("_ZNK3zkJ10_JobBasics19getSceneDisplayNameEv");
+        = function<DisplayNameFn>(lib, "_ZNK3zkJ10_JobBasics19getSceneDisplayNameEv");
     ASSERT_TRUE(exportVars && setCustom && split && displayName);
 
     // The host allocates records with calloc and sets them up itself.
