@@ -13,7 +13,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <optional>
 #include <ostream>
 #include <utility>
@@ -80,18 +79,10 @@ QJsonValue substitute(const QJsonValue& v, const QString& scene)
     return v.isObject() ? QJsonValue(out) : v;
 }
 
-/// Faults of the case file itself: keys that \p known lacks, or of another type.
-void keyErrors(const QJsonObject& given, const QJsonObject& known, const QString& where,
-    QStringList& errors, const QString& prefix = QString())
-{
-    for (auto it = given.begin(); it != given.end(); ++it) {
-        if (!known.contains(it.key()))
-            errors << QStringLiteral("%1unknown key \"%2%3\"").arg(where, prefix, it.key());
-        else if (known.value(it.key()).type() != it.value().type())
-            errors << QStringLiteral("%1\"%2%3\" has the wrong type").arg(where, prefix, it.key());
-    }
-}
-
+/// Faults of the case file that no comparison would show: an unknown top-level
+/// key (a misspelt "jobs" would check nothing), a value of another type,
+/// arguments that are not texts, entries for jobs beyond the count. A job key
+/// that jobs do not have fails its comparison ("got undefined").
 QStringList caseErrors(const QJsonObject& expect)
 {
     QStringList errors;
@@ -99,7 +90,12 @@ QStringList caseErrors(const QJsonObject& expect)
         { QStringLiteral("environment"), QJsonObject() }, { QStringLiteral("result"), 0 },
         { QStringLiteral("arrayText"), QString() }, { QStringLiteral("jobCount"), 0 },
         { QStringLiteral("jobs"), QJsonArray() } };
-    keyErrors(expect, top, QString(), errors);
+    for (auto it = expect.begin(); it != expect.end(); ++it) {
+        if (!top.contains(it.key()))
+            errors << QStringLiteral("unknown key \"%1\"").arg(it.key());
+        else if (top.value(it.key()).type() != it.value().type())
+            errors << QStringLiteral("\"%1\" has the wrong type").arg(it.key());
+    }
     for (const char* required : { "result", "arrayText", "jobCount" }) {
         if (!expect.contains(QLatin1String(required)))
             errors << QStringLiteral("\"%1\" is missing").arg(QLatin1String(required));
@@ -111,24 +107,9 @@ QStringList caseErrors(const QJsonObject& expect)
         if (!v.isString())
             errors << QStringLiteral("arguments and environment values must be strings");
     }
-    // The keys a job object has, taken from the JSON of a zeroed record.
-    static const QJsonObject known = [] {
-        void* memory = std::calloc(1, sizeof(zkJ::_JobBasics_largePath));
-        const QJsonObject o
-            = zkHost::jobJson(*static_cast<zkJ::_JobBasics_largePath*>(memory), 0, true);
-        std::free(memory);
-        return o;
-    }();
-    const QJsonArray jobs = expect.value(QStringLiteral("jobs")).toArray();
-    if (jobs.size() > expect.value(QStringLiteral("jobCount")).toInt())
+    if (expect.value(QStringLiteral("jobs")).toArray().size()
+        > expect.value(QStringLiteral("jobCount")).toInt())
         errors << QStringLiteral("more job entries than \"jobCount\"");
-    for (qsizetype i = 0; i < jobs.size(); ++i) {
-        const QString where = QStringLiteral("job %1: ").arg(i);
-        keyErrors(jobs[i].toObject(), known, where, errors);
-        keyErrors(jobs[i][QStringLiteral("renderApp")].toObject(),
-            known.value(QStringLiteral("renderApp")).toObject(), where, errors,
-            QStringLiteral("renderApp."));
-    }
     return errors;
 }
 
@@ -155,8 +136,9 @@ QString SceneCases::pluginError;
 void expectField(const QString& where, const QJsonValue& got, const QJsonValue& expected)
 {
     if (got != expected)
-        ADD_FAILURE() << qPrintable(where) << ": got " << show(got) << ", expected "
-                      << show(expected);
+        ADD_FAILURE() << qPrintable(where) << ": got "
+                      << (got.isUndefined() ? std::string("no such key") : show(got))
+                      << ", expected " << show(expected);
 }
 
 TEST_P(SceneCases, MatchesItsExpectations)
