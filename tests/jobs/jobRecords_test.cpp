@@ -160,26 +160,7 @@ TEST_F(ToBasic, PacksChannelsThatFitAndSkipsTheRest)
     EXPECT_EQ(dst->channelBufferUsed, 504);
 }
 
-// ---- versions, waits and password: methods the host calls -----------------
-
-TEST(RenderAppVersion, MinorDisplayForms)
-{
-    // Forms the job variables do not use: no minimum digits, nothing to cut.
-    const struct
-    {
-        const char* minor;
-        bool removeDot;
-        unsigned char minDigits;
-        const char* shown;
-    } rows[] = { { "10000", false, 1, "1" }, { "000", false, 0, "" }, { "", true, 1, "" },
-        { "5.300", false, 1, "5.3" } };
-    for (const auto& r : rows) {
-        zkRA::_RenderAppBasic app {};
-        app.versionMinor.setLatin1(r.minor);
-        EXPECT_EQ(app.getVersionMinorDisplay(r.removeDot, r.minDigits), QLatin1String(r.shown))
-            << r.minor;
-    }
-}
+// ---- waits and password: methods the host calls ---------------------------
 
 TEST(WaitForList, SetClampsTheIndexAddStopsAtTwentyNine)
 {
