@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 
 using namespace zkJ;
 
@@ -43,93 +44,71 @@ SplitOut split(const SplitIn& in)
     return { dir.toQString(), fileName.toQString(), extension.toQString(), single, padding };
 }
 
-struct SplitCase
+/// The split as "dir|fileName|extension|single|padding", single as 0 or 1.
+template <int DirCap, int FileCap>
+std::string described(const SplitIn& in)
 {
-    const char* what;
-    SplitIn in;
-    const char* dir;
-    const char* fileName;
-    const char* extension;
-    bool singleFile;
-    int padding;
-};
-
-void runCases(const SplitCase* begin, const SplitCase* end)
-{
-    for (const SplitCase* c = begin; c != end; ++c) {
-        for (const SplitOut& out : { split<1000, 1000>(c->in), split<500, 250>(c->in) }) {
-            EXPECT_EQ(out.dir.toStdString(), c->dir) << c->what;
-            EXPECT_EQ(out.fileName.toStdString(), c->fileName) << c->what;
-            EXPECT_EQ(out.extension.toStdString(), c->extension) << c->what;
-            EXPECT_EQ(out.singleFile, c->singleFile) << c->what;
-            EXPECT_EQ(out.padding, c->padding) << c->what;
-        }
-    }
+    const SplitOut out = split<DirCap, FileCap>(in);
+    return (QStringList { out.dir, out.fileName, out.extension, QString::number(out.singleFile),
+                QString::number(out.padding) }
+                .join(u'|'))
+        .toStdString();
 }
 
 } // namespace
 
 // A picture value reaches the split with no directory, no extension and the
 // printf flag set: those rows are the drivers of the scene case split_pictures.
-// Here are the forms a picture cannot give.
-TEST(ImageNameSplit, GivenDirectoryExtensionOrFlags)
-{
-    const SplitCase cases[] = {
-        { "printf off", { "beauty.%04d.exr", "/r/" }, "/r/", "beauty.%04d", ".exr", false, 9 },
-        { "vrscene with extension given", { "scene", "/r/", false, "", "", ".vrscene" }, "/r/",
-            "scene", ".vrscene", false, 9 },
-        { "extension given", { "beauty.exr", "/r/", false, "", "", ".exr" }, "/r/", "beauty",
-            ".exr", false, 9 },
-        { "single on entry", { "movie", "/r/", false, "", "", ".mov", true }, "/r/", "movie.mov",
-            "", true, 9 },
-        { "dir follows the file's separator", { "img.#.exr", "C:\\out\\sub" }, "C:/out/sub/",
-            "img.", ".exr", false, 1 },
-        { "drive, slash", { "beauty.#.exr", "C:render" }, "C:/render/", "beauty.", ".exr", false,
-            1 },
-        { "doubled in given dir", { "img.#.exr", "/r//x" }, "/r/x/", "img.", ".exr", false, 1 },
-        { "value var", { "/r/<ValueVar @$AOV./>/i.#.exr" }, "/r/", "<ValueVar @$AOV./>/i.", ".exr",
-            false, 1 },
-    };
-    runCases(std::begin(cases), std::end(cases));
-}
-
-TEST(ImageNameSplit, SceneFolderAndDatabase)
+// Here are the forms a picture cannot give, and scene folders (a driver's job
+// has no scene name yet when it is split). Padding 9 means "unchanged".
+TEST(ImageNameSplit, FormsAPictureCannotGive)
 {
     const char* scene = "/projects1/shots/seq01/sh010/scene.hip";
-    const SplitCase cases[] = {
-        { "scene folder", { "/projects1/shots/seq01/sh010/render/i.#.exr", "", false, scene },
-            "<SceneFolder>render/", "i.", ".exr", false, 1 },
-        { "one up", { "/projects1/shots/seq01/comp/i.#.exr", "", false, scene },
-            "<SceneFolder>../comp/", "i.", ".exr", false, 1 },
-        { "two up", { "/projects1/shots/other/i.#.exr", "", false, scene },
-            "<SceneFolder>../../other/", "i.", ".exr", false, 1 },
-        { "three up", { "/projects1/renders/i.#.exr", "", false, scene },
-            "<SceneFolder>../../../renders/", "i.", ".exr", false, 1 },
-        { "folder of 10 characters is too short",
-            { "/projects/x/i.#.exr", "", false, "/projects/s.hip" }, "/projects/x/", "i.", ".exr",
-            false, 1 },
-        { "case matters", { "/Projects1/shots/seq01/sh010/i.#.exr", "", false, scene },
-            "/Projects1/shots/seq01/sh010/", "i.", ".exr", false, 1 },
-        { "backslash scene",
-            { "C:\\projects\\sh010\\render\\i.#.exr", "", false, "C:/projects/sh010/scene.hip" },
-            "<SceneFolder>render\\", "i.", ".exr", false, 1 },
-        { "sibling: one up", { "/proj/shots/out/i.#.exr", "", false, "/proj/shots/sh010/s.hip" },
-            "<SceneFolder>../out/", "i.", ".exr", false, 1 },
-        { "database without slash", { "/proj/db/render/i.#.exr", "", false, "", "/proj/db" },
-            "<Database>/render/", "i.", ".exr", false, 1 },
-        { "database with slash", { "/proj/db/render/i.#.exr", "", false, "", "/proj/db/" },
-            "<Database>render/", "i.", ".exr", false, 1 },
-        { "database is a prefix of a name only", { "/proj/dbx/i.#.exr", "", false, "", "/proj/db" },
-            "/proj/dbx/", "i.", ".exr", false, 1 },
-        { "scene folder before database",
-            { "/proj/db/scenes/render/i.#.exr", "", false, "/proj/db/scenes/a.hip", "/proj/db" },
-            "<SceneFolder>render/", "i.", ".exr", false, 1 },
-        { "database before parents",
-            { "/proj/database/render/i.#.exr", "", false, "/proj/database/scenes/a.hip",
-                "/proj/database" },
-            "<Database>/render/", "i.", ".exr", false, 1 },
+    const struct
+    {
+        SplitIn in;
+        const char* out;
+    } rows[] = {
+        { { "beauty.%04d.exr", "/r/" }, "/r/|beauty.%04d|.exr|0|9" }, // printf off
+        { { "scene", "/r/", false, "", "", ".vrscene" }, "/r/|scene|.vrscene|0|9" },
+        { { "beauty.exr", "/r/", false, "", "", ".exr" }, "/r/|beauty|.exr|0|9" },
+        { { "movie", "/r/", false, "", "", ".mov", true }, "/r/|movie.mov||1|9" },
+        { { "img.#.exr", "C:\\out\\sub" }, "C:/out/sub/|img.|.exr|0|1" },
+        { { "beauty.#.exr", "C:render" }, "C:/render/|beauty.|.exr|0|1" },
+        { { "img.#.exr", "/r//x" }, "/r/x/|img.|.exr|0|1" },
+        { { "/r/<ValueVar @$AOV./>/i.#.exr" }, "/r/|<ValueVar @$AOV./>/i.|.exr|0|1" },
+        { { "/projects1/shots/seq01/sh010/render/i.#.exr", "", false, scene },
+            "<SceneFolder>render/|i.|.exr|0|1" },
+        { { "/projects1/shots/seq01/comp/i.#.exr", "", false, scene },
+            "<SceneFolder>../comp/|i.|.exr|0|1" },
+        { { "/projects1/shots/other/i.#.exr", "", false, scene },
+            "<SceneFolder>../../other/|i.|.exr|0|1" },
+        { { "/projects1/renders/i.#.exr", "", false, scene },
+            "<SceneFolder>../../../renders/|i.|.exr|0|1" },
+        // A folder of 10 characters is too short; case matters.
+        { { "/projects/x/i.#.exr", "", false, "/projects/s.hip" }, "/projects/x/|i.|.exr|0|1" },
+        { { "/Projects1/shots/seq01/sh010/i.#.exr", "", false, scene },
+            "/Projects1/shots/seq01/sh010/|i.|.exr|0|1" },
+        { { "C:\\projects\\sh010\\render\\i.#.exr", "", false, "C:/projects/sh010/scene.hip" },
+            "<SceneFolder>render\\|i.|.exr|0|1" },
+        { { "/proj/shots/out/i.#.exr", "", false, "/proj/shots/sh010/s.hip" },
+            "<SceneFolder>../out/|i.|.exr|0|1" },
+        { { "/proj/db/render/i.#.exr", "", false, "", "/proj/db" },
+            "<Database>/render/|i.|.exr|0|1" },
+        { { "/proj/db/render/i.#.exr", "", false, "", "/proj/db/" },
+            "<Database>render/|i.|.exr|0|1" },
+        { { "/proj/dbx/i.#.exr", "", false, "", "/proj/db" }, "/proj/dbx/|i.|.exr|0|1" },
+        // The scene folder before the database, the database before the parents.
+        { { "/proj/db/scenes/render/i.#.exr", "", false, "/proj/db/scenes/a.hip", "/proj/db" },
+            "<SceneFolder>render/|i.|.exr|0|1" },
+        { { "/proj/database/render/i.#.exr", "", false, "/proj/database/scenes/a.hip",
+              "/proj/database" },
+            "<Database>/render/|i.|.exr|0|1" },
     };
-    runCases(std::begin(cases), std::end(cases));
+    for (const auto& row : rows) {
+        EXPECT_EQ((described<1000, 1000>(row.in)), row.out) << row.in.fileName;
+        EXPECT_EQ((described<500, 250>(row.in)), row.out) << row.in.fileName;
+    }
 }
 
 TEST(ImageNameSplit, ResultsAreCutToTheirCapacities)
