@@ -12,35 +12,30 @@ namespace {
 
 struct Recorded
 {
-    int outCalls = 0;
-    int usdCalls = 0;
-    int outResult = 1;
-    int usdResult = 1;
-    int major = 0;
+    int outCalls = 0, usdCalls = 0, outResult = 1, usdResult = 1, major = 0;
     QString minor;
 } recorded;
 
-void skipSection(LineSource& in, QString& line)
+/// Consumes the section as a reader would and returns \p result.
+LoadResult skipSection(LineSource& in, QString& line, int& calls, int result)
 {
+    ++calls;
     while (in.next(line) && !line.startsWith(u'}')) { }
+    return static_cast<LoadResult>(result);
 }
 
 LoadResult fakeUsd(zkP::_dataPARS_LoadSceneFile*, LineSource& in, QString& header)
 {
-    ++recorded.usdCalls;
-    skipSection(in, header);
-    return static_cast<LoadResult>(recorded.usdResult);
+    return skipSection(in, header, recorded.usdCalls, recorded.usdResult);
 }
 
 LoadResult fakeOut(zkP::_dataPARS_LoadSceneFile*, LineSource& in, QString& header, bool& takeFound,
     const int& major, const QString& minor)
 {
-    ++recorded.outCalls;
     recorded.major = major;
     recorded.minor = minor;
     takeFound = true;
-    skipSection(in, header);
-    return static_cast<LoadResult>(recorded.outResult);
+    return skipSection(in, header, recorded.outCalls, recorded.outResult);
 }
 
 TEST(Scanner, DriverAndRenderSettingsResultsEndTheScan)
