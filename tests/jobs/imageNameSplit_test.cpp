@@ -113,70 +113,66 @@ TEST(ImageNameSplit, FormsAPictureCannotGive)
 
 TEST(ImageNameSplit, ResultsAreCutToTheirCapacities)
 {
-    // A 500-unit directory has no room for the closing separator.
+    // A 500-unit directory has no room for the closing separator; the
+    // scene-folder token is longer than the folder it replaces.
     const std::string longDir(500, 'a');
-    SplitOut out = split<500, 250>({ "img.#.exr", longDir.c_str() });
-    EXPECT_EQ(out.dir.size(), 500);
-    EXPECT_FALSE(out.dir.endsWith(u'/'));
-
-    // The scene-folder token is longer than the folder it replaces.
     const std::string dir = "/abcdefghij/" + std::string(488, 'x');
-    out = split<500, 250>({ "img.#.exr", dir.c_str(), false, "/abcdefghij/s.hip" });
-    EXPECT_EQ(out.dir.size(), 500);
-    EXPECT_TRUE(out.dir.startsWith(QStringLiteral("<SceneFolder>xxx")));
-
     const std::string dir1000 = "/abcdefghij/" + std::string(988, 'x');
-    const SplitOut large
-        = split<1000, 1000>({ "img.#.exr", dir1000.c_str(), false, "/abcdefghij/s.hip" });
-    EXPECT_EQ(large.dir.size(), 1000);
+    const QString cut[] = { split<500, 250>({ "img.#.exr", longDir.c_str() }).dir,
+        split<500, 250>({ "img.#.exr", dir.c_str(), false, "/abcdefghij/s.hip" }).dir,
+        split<1000, 1000>({ "img.#.exr", dir1000.c_str(), false, "/abcdefghij/s.hip" }).dir };
+    EXPECT_EQ(cut[0], QString(500, u'a'));
+    EXPECT_EQ(cut[1], QStringLiteral("<SceneFolder>") + QString(487, u'x'));
+    EXPECT_EQ(cut[2].size(), 1000);
 
     // A single file's name and extension together are cut to the file capacity.
     const std::string name(250, 'm');
-    out = split<500, 250>({ name.c_str(), "/r/", false, "", "", ".mov", true });
-    EXPECT_EQ(out.fileName, QString(250, u'm'));
-    EXPECT_TRUE(out.extension.isEmpty());
-    const SplitOut wide = split<500, 500>({ name.c_str(), "/r/", false, "", "", ".mov", true });
-    EXPECT_EQ(wide.fileName, QString(250, u'm') + QStringLiteral(".mov"));
+    EXPECT_EQ((described<500, 250>({ name.c_str(), "/r/", false, "", "", ".mov", true })),
+        "/r/|" + name + "||1|9");
+    EXPECT_EQ((described<500, 500>({ name.c_str(), "/r/", false, "", "", ".mov", true })),
+        "/r/|" + name + ".mov||1|9");
 }
 
-TEST(ImageNameSplit, CompactJobSplitsChannelsFirst)
+/// The main image, then every non-empty channel slot, as "dir+file|ext".
+template <typename Job>
+std::string images(const Job& job, const QStringList& channels)
 {
-    auto job = std::make_unique<_JobBasics>();
-    job->imageFileName.set(QStringLiteral("/projects1/sh/render/beauty.####.exr"));
-    job->sceneName.set(QStringLiteral("/projects1/sh/scene.hip"));
-    job->channelAdd(_zkString<500>("diffuse.####.exr"), _zkString<25>());
-    job->channelAdd(_zkString<500>("/projects1/sh/aov/spec.%03d.exr"), _zkString<25>());
-    job->channelAdd(_zkString<500>("<Channel>.####.exr"), _zkString<25>());
-    job->splitImageFileInto_DirFileExt(true);
-
-    EXPECT_EQ(job->imageDir.toQString(), QStringLiteral("<SceneFolder>render/"));
-    EXPECT_EQ(job->imageFileName.toQString(), QStringLiteral("beauty."));
-    EXPECT_EQ(job->imageExtension.toQString(), QStringLiteral(".exr"));
-    EXPECT_EQ(job->padding, 4);
-    // The directory was still empty when the channels were split.
-    EXPECT_EQ(job->channelFileName(0).toQString(), QStringLiteral("diffuse."));
-    EXPECT_EQ(job->channelExtension(0).toQString(), QStringLiteral(".exr"));
-    EXPECT_EQ(job->channelFileName(1).toQString(), QStringLiteral("<SceneFolder>aov/spec."));
-    EXPECT_EQ(job->channelFileName(2).toQString(), QStringLiteral("<Channel>."));
-    // The channels' own padding does not reach the job.
-    EXPECT_EQ(job->channelCount, 3);
+    QStringList out { job.imageDir.toQString() + job.imageFileName.toQString() + u'|'
+        + job.imageExtension.toQString() + u'|' + QString::number(job.padding) };
+    return (out + channels).join(u' ').toStdString();
 }
 
-TEST(ImageNameSplit, RelativeChannelsTakeTheGivenDirectory)
+TEST(ImageNameSplit, ChannelsAreSplitFirstWithTheGivenDirectory)
 {
-    auto job = std::make_unique<_JobBasics_largePath>();
-    job->imageDir.set(QStringLiteral("C:\\render\\"));
-    job->imageFileName.set(QStringLiteral("beauty.####.exr"));
-    job->channels[0].fileName.set(QStringLiteral("diff.####.exr"));
-    job->channels[2].fileName.set(QStringLiteral("D:/aov/spec.#.exr"));
-    job->channels[3].fileName.set(QStringLiteral("x"));
-    job->splitImageFileInto_DirFileExt(false);
+    auto compact = std::make_unique<_JobBasics>();
+    compact->imageFileName.set(QStringLiteral("/projects1/sh/render/beauty.####.exr"));
+    compact->sceneName.set(QStringLiteral("/projects1/sh/scene.hip"));
+    for (const char* name :
+        { "diffuse.####.exr", "/projects1/sh/aov/spec.%03d.exr", "<Channel>.####.exr" })
+        compact->channelAdd(_zkString<500>(name), _zkString<25>());
+    compact->splitImageFileInto_DirFileExt(true);
+    QStringList channels;
+    for (int k = 0; k < compact->channelCount; ++k)
+        channels << compact->channelFileName(k).toQString() + u'|'
+                + compact->channelExtension(k).toQString();
+    // The directory was still empty when the channels were split; their own
+    // padding does not reach the job.
+    EXPECT_EQ(images(*compact, channels),
+        "<SceneFolder>render/beauty.|.exr|4 diffuse.|.exr <SceneFolder>aov/spec.|.exr "
+        "<Channel>.|.exr");
 
-    EXPECT_EQ(job->imageDir.toQString(), QStringLiteral("C:/render/"));
-    EXPECT_EQ(job->padding, 4);
-    EXPECT_EQ(job->channels[0].fileName.toQString(), QStringLiteral("C:\\render\\diff."));
-    EXPECT_EQ(job->channels[0].extension.toQString(), QStringLiteral(".exr"));
-    EXPECT_TRUE(job->channels[1].fileName.isEmpty());
-    EXPECT_EQ(job->channels[2].fileName.toQString(), QStringLiteral("D:/aov/spec."));
-    EXPECT_EQ(job->channels[3].fileName.toQString(), QStringLiteral("C:\\render\\x"));
+    auto large = std::make_unique<_JobBasics_largePath>();
+    large->imageDir.set(QStringLiteral("C:\\render\\"));
+    large->imageFileName.set(QStringLiteral("beauty.####.exr"));
+    large->channels[0].fileName.set(QStringLiteral("diff.####.exr"));
+    large->channels[2].fileName.set(QStringLiteral("D:/aov/spec.#.exr"));
+    large->channels[3].fileName.set(QStringLiteral("x"));
+    large->splitImageFileInto_DirFileExt(false);
+    channels.clear();
+    for (const auto& slot : large->channels) {
+        if (!slot.fileName.isEmpty())
+            channels << slot.fileName.toQString() + u'|' + slot.extension.toQString();
+    }
+    EXPECT_EQ(images(*large, channels),
+        "C:/render/beauty.|.exr|4 C:\\render\\diff.|.exr D:/aov/spec.|.exr C:\\render\\x|");
 }
