@@ -1,11 +1,9 @@
 #include "shared/zkShared.h"
 
 #include <QByteArray>
-#include <QtGlobal>
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <utility>
 
 namespace {
@@ -83,22 +81,6 @@ TEST(ZkTexts, IllegalFileNameCharactersRemoved)
         QStringLiteral("abcdefghijkl"));
     EXPECT_EQ(zkRemoveIllegalCharFromHtmlFile(QString::fromUtf8("Layer 1 \xC3\xA9-_.")),
         QString::fromUtf8("Layer 1 \xC3\xA9-_."));
-}
-
-TEST(ZkEnvironment, ListKeepsOrderAndSplitsAtFirstEquals)
-{
-    // setenv appends new names at the end of environ, in call order.
-    ASSERT_EQ(setenv("ZK_ENV_TEST_FIRST", "a=b=c", 1), 0);
-    ASSERT_EQ(setenv("ZK_ENV_TEST_SECOND", "", 1), 0);
-    QStringList ours;
-    for (const _varValue& v : zkGetEnvironmentVariableList(false).items) {
-        EXPECT_FALSE(v.name.contains(u'=')) << qPrintable(v.name);
-        if (v.name.startsWith(QLatin1String("ZK_ENV_TEST_")))
-            ours << v.name + u'=' + v.value;
-    }
-    EXPECT_EQ(ours.join(u' '), QStringLiteral("ZK_ENV_TEST_FIRST=a=b=c ZK_ENV_TEST_SECOND="));
-    unsetenv("ZK_ENV_TEST_FIRST");
-    unsetenv("ZK_ENV_TEST_SECOND");
 }
 
 } // namespace
