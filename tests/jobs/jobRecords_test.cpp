@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -91,15 +92,12 @@ TEST_F(ToBasic, CutsPathsToTheCompactCapacities)
     dst->auxByte4 = 2;
 
     src->toJobsBasic(*dst);
-    EXPECT_EQ(dst->sceneName.length, 500);
-    EXPECT_EQ(dst->sceneName.data[500], 0);
-    EXPECT_EQ(dst->sceneDatabaseDir.length, 500);
-    EXPECT_EQ(dst->imageDir.toQString(), QStringLiteral("/render/"));
-    EXPECT_EQ(dst->imageFileName.length, 250);
-    EXPECT_EQ(dst->imageFileName.data[250], 0);
-    EXPECT_EQ(dst->auxImageName.length, 250);
-    EXPECT_EQ(dst->imageExtension.length, 25);
-    EXPECT_EQ(dst->camera.toQString(), QStringLiteral("cam1"));
+    EXPECT_EQ(
+        (std::vector<int> { dst->sceneName.length, dst->sceneDatabaseDir.length,
+            dst->imageFileName.length, dst->auxImageName.length, dst->imageExtension.length }),
+        (std::vector<int> { 500, 500, 250, 250, 25 }));
+    EXPECT_EQ(dst->sceneName.data[500] + dst->imageFileName.data[250], 0);
+    EXPECT_EQ(dst->imageDir.toQString() + dst->camera.toQString(), QStringLiteral("/render/cam1"));
     EXPECT_EQ(dst->seqEnd, 50.0);
     EXPECT_EQ(dst->customData[17], 'x');
     // The settings are copied whole: the source's empty texts replace "<auto>".
