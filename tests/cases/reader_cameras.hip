@@ -145,5 +145,12 @@ out/r_cut.parm {
 vm_picture	[ 0	locks=0 ]	(	"$HIP/c/$OS.$F4.exr"	)
 camera	[ 0	locks=0 ]	(	/obj/cam_cut	)
 }
+obj/cam_é€.parm {
+res	[ 0	locks=0 ]	(	700	500	)
+}
+out/r_latin.parm {
+vm_picture	[ 0	locks=0 ]	(	"$HIP/c/$OS.$F4.exr"	)
+camera	[ 0	locks=0 ]	(	/obj/cam_é€	)
+}
 obj/cam_cut.parm {
 res	[ 0	locks=0 ]	(	1920	1080	)

@@ -101,24 +101,18 @@ QStringList caseErrors(const QJsonObject& expect)
 }
 
 class SceneCases : public ::testing::TestWithParam<SceneCase>
+{ };
+
+/// One load of the scene through the library opened once for the whole suite.
+QJsonObject load(const SceneCase& c, const QStringList& arguments, QString& error)
 {
-protected:
-    static void SetUpTestSuite() { plugin.open(QStringLiteral(ZK_PLUGIN_PATH), pluginError); }
-
-    /// One load of the scene through the library opened for the whole suite.
-    static QJsonObject load(const SceneCase& c, const QStringList& arguments)
-    {
-        zkHost::SceneLoad host(c.scene, arguments);
-        const int result = plugin.load(&host.record);
-        return zkHost::loadJson(host.jobs, result, c.scene, true);
-    }
-
     static zkHost::Plugin plugin;
-    static QString pluginError;
-};
-
-zkHost::Plugin SceneCases::plugin;
-QString SceneCases::pluginError;
+    static const bool opened = plugin.open(QStringLiteral(ZK_PLUGIN_PATH), error);
+    if (!opened)
+        return {};
+    zkHost::SceneLoad host(c.scene, arguments);
+    return zkHost::loadJson(host.jobs, plugin.load(&host.record), c.scene, true);
+}
 
 void expectField(const QString& where, const QJsonValue& got, const QJsonValue& expected)
 {
@@ -132,7 +126,6 @@ TEST_P(SceneCases, MatchesItsExpectations)
 {
     const SceneCase& c = GetParam();
     const QString name = QString::fromStdString(c.name);
-    ASSERT_TRUE(plugin.load) << qPrintable(pluginError);
     ASSERT_FALSE(c.scene.isEmpty()) << c.name << ": expectations without a scene";
     QFile file(QDir(CasesDir).filePath(name + ExpectSuffix));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << c.name << ": a scene without expectations";
@@ -163,11 +156,13 @@ TEST_P(SceneCases, MatchesItsExpectations)
             { var, qEnvironmentVariableIsSet(var) ? std::optional(qgetenv(var)) : std::nullopt });
         qputenv(var, it.value().toString().toLocal8Bit());
     }
-    const QJsonObject first = load(c, arguments);
+    QString error;
+    const QJsonObject first = load(c, arguments, error);
     // One load of the library serves each scene alike, however many came before.
-    const QJsonObject second = load(c, arguments);
+    const QJsonObject second = load(c, arguments, error);
     for (const auto& [var, value] : saved)
         value ? qputenv(var, *value) : qunsetenv(var);
+    ASSERT_FALSE(first.isEmpty()) << qPrintable(error);
 
     for (const char* key : { "result", "arrayText" })
         expectField(name + u' ' + QLatin1String(key), first.value(QLatin1String(key)),
