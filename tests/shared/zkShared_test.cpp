@@ -8,54 +8,21 @@
 
 namespace {
 
-TEST(ZkGetDirName, KeepsTheSeparatorAndClimbsFromADirectory)
+// Both forms climb a directory at a time in the job variables of
+// vars_render_job ("/r/shot/render/" to "/r/shot/" to "/r/"); here the ends.
+TEST(ZkPaths, DirectoryAndBaseNameAtTheirEnds)
 {
-    struct Row
-    {
-        const char* path;
-        char16_t sep;
-        const char* expected;
-    };
-    const Row rows[] = {
-        { "/r/img.exr", u'/', "/r/" },
-        { "/proj/shot/render/", u'/', "/proj/shot/" }, // one trailing separator is dropped
-        { "/proj/", u'/', "/" }, { "/", u'/', "" }, { "img.exr", u'/', "" }, { "", u'/', "" },
-        { "C:\\r\\img.exr", u'\\', "C:\\r\\" },
-        { "C:\\r\\img.exr", u'/', "" }, // only the given separator counts
-    };
-    for (const Row& r : rows) {
-        EXPECT_EQ(zkGetDirName(QLatin1String(r.path), r.sep), QLatin1String(r.expected)) << r.path;
-    }
-
-    // The fixed-capacity form climbs the same way.
-    const _zkString<500> p("/proj/shot/render/");
-    EXPECT_EQ(zkGetDirName(p).toQString(), QStringLiteral("/proj/shot/"));
-    EXPECT_EQ(zkGetDirName(zkGetDirName(p)).toQString(), QStringLiteral("/proj/"));
+    const char* dirs[][2] = { { "/proj/", "/" }, { "/", "" }, { "img.exr", "" }, { "", "" },
+        { "C:\\r\\img.exr", "" } }; // only the given separator counts
+    for (const auto& d : dirs)
+        EXPECT_EQ(zkGetDirName(QLatin1String(d[0]), u'/'), QLatin1String(d[1])) << d[0];
+    EXPECT_EQ(zkGetDirName(QStringLiteral("C:\\r\\img.exr"), u'\\'), QStringLiteral("C:\\r\\"));
     EXPECT_TRUE(zkGetDirName(_zkString<500>("file")).isEmpty());
-}
 
-TEST(ZkGetFileNameBase, LastComponentWithoutExtension)
-{
-    struct Row
-    {
-        const char* path;
-        const char* expected;
-    };
-    const Row rows[] = {
-        { "/r/img.exr", "img" },
-        { "/r/img.0001.exr", "img.0001" },
-        { "/r/noext", "noext" },
-        { "/r/.hidden", ".hidden" },
-        { "img.exr", "img" },
-        { "/r/dir/", "" },
-        { "", "" },
-    };
-    for (const Row& r : rows)
-        EXPECT_EQ(zkGetFileNameBase(QLatin1String(r.path), u'/'), QLatin1String(r.expected))
-            << r.path;
-
-    const QString p = QStringLiteral("/r/img.exr");
-    EXPECT_EQ(zkGetDirName(p, u'/') + zkGetFileNameBase(p, u'/'), QStringLiteral("/r/img"));
+    const char* bases[][2] = { { "/r/img.0001.exr", "img.0001" }, { "/r/noext", "noext" },
+        { "/r/.hidden", ".hidden" }, { "img.exr", "img" }, { "/r/dir/", "" }, { "", "" } };
+    for (const auto& b : bases)
+        EXPECT_EQ(zkGetFileNameBase(QLatin1String(b[0]), u'/'), QLatin1String(b[1])) << b[0];
 }
 
 TEST(ZkChecksums, Crc64IsXZAndTheDigestKeepsSixteenBytesOfSha1)
