@@ -9,11 +9,6 @@ using namespace zkJ;
 
 namespace {
 
-std::unique_ptr<_JobBasics> newJob()
-{
-    return std::make_unique<_JobBasics>();
-}
-
 /// The block's entries as "name=value", in block order.
 QString entries(const _JobBasics& job)
 {
@@ -27,7 +22,7 @@ QString entries(const _JobBasics& job)
 
 TEST(CustomData, ValuesRoundTripIn8And16Bit)
 {
-    auto job = newJob();
+    auto job = std::make_unique<_JobBasics>();
     const QString latin = QStringLiteral("caf\u00e9 -v");
     const QString wide = QStringLiteral("\u65e5\u672c x");
     job->customDataSet_Str(QStringLiteral("AddCmdFlags"), latin);
@@ -52,7 +47,7 @@ TEST(CustomData, ValuesRoundTripIn8And16Bit)
 
 TEST(CustomData, ReplaceIgnoresCaseEmptyValueDeletes)
 {
-    auto job = newJob();
+    auto job = std::make_unique<_JobBasics>();
     job->customDataSet_Str(QStringLiteral("a"), QStringLiteral("x"));
     job->customDataSet_Str(QStringLiteral("A"), QStringLiteral("y"));
     job->customDataAppend_Str(QStringLiteral("a"), QStringLiteral("z"));
@@ -66,7 +61,7 @@ TEST(CustomData, ReplaceIgnoresCaseEmptyValueDeletes)
     EXPECT_FALSE(job->customData_Contains(QStringLiteral("k2")));
 
     // Deleting an absent key changes nothing.
-    auto before = newJob();
+    auto before = std::make_unique<_JobBasics>();
     *before = *job;
     job->customDataSet_Str(QStringLiteral("absent"), QString());
     EXPECT_TRUE(job->customData_isEqual(before.get()));
@@ -80,7 +75,7 @@ TEST(CustomData, ReplaceIgnoresCaseEmptyValueDeletes)
 
 TEST(CustomData, AdmissionDropsTheEntryThatOverflowsAndAllAfter)
 {
-    auto job = newJob();
+    auto job = std::make_unique<_JobBasics>();
     // name 2 + value 1000 + 5 = 1007 per entry: three fit in 3990, the fourth does not.
     QStringList names, values;
     for (int i = 0; i < 5; ++i) {
@@ -95,7 +90,7 @@ TEST(CustomData, AdmissionDropsTheEntryThatOverflowsAndAllAfter)
 
 TEST(CustomData, SixteenBitValuesNeverPassTheBlock)
 {
-    auto job = newJob();
+    auto job = std::make_unique<_JobBasics>();
     // Each entry is admitted at 2 + 300 + 5 characters but takes 8 + 600 bytes.
     QStringList names, values;
     for (int i = 0; i < 12; ++i) {
@@ -113,7 +108,7 @@ TEST(CustomData, SixteenBitValuesNeverPassTheBlock)
 
 TEST(CustomData, AllAsStringSkipsUserInfoAndComment)
 {
-    auto job = newJob();
+    auto job = std::make_unique<_JobBasics>();
     job->customDataSet_UserInfo(QStringLiteral("me"));
     job->customDataSet_CommentInfo(QStringLiteral("hello"));
     EXPECT_TRUE(job->customData_AllAsString().isEmpty());
@@ -129,8 +124,8 @@ TEST(CustomData, AllAsStringSkipsUserInfoAndComment)
 
 TEST(CustomData, ListsBlockComparisonUppercaseAndClear)
 {
-    auto a = newJob();
-    auto b = newJob();
+    auto a = std::make_unique<_JobBasics>();
+    auto b = std::make_unique<_JobBasics>();
     const QStringList names { QStringLiteral("one"), QStringLiteral("two") };
     const QStringList values { QStringLiteral("abc"), QStringLiteral("\u0100") };
     a->customDataSet_All(names, values);
@@ -157,7 +152,7 @@ TEST(CustomData, ListsBlockComparisonUppercaseAndClear)
 
 TEST(CustomData, CorruptCountersStayInsideTheBlock)
 {
-    auto job = newJob();
+    auto job = std::make_unique<_JobBasics>();
     std::memset(job->customData, 'c', sizeof(job->customData));
     job->customDataCount = 1000000;
     job->customDataValuesStart = 1000000;

@@ -21,17 +21,9 @@ struct SplitIn
     unsigned char padding = 9;
 };
 
-struct SplitOut
-{
-    QString dir;
-    QString fileName;
-    QString extension;
-    bool singleFile;
-    int padding;
-};
-
+/// The split as "dir|fileName|extension|single|padding", single as 0 or 1.
 template <int DirCap, int FileCap>
-SplitOut split(const SplitIn& in)
+std::string described(const SplitIn& in)
 {
     _zkString<FileCap> fileName(QString::fromUtf8(in.fileName));
     _zkString<DirCap> dir(QString::fromUtf8(in.dir));
@@ -41,16 +33,8 @@ SplitOut split(const SplitIn& in)
     template_splitImageFileInto_DirFileExt<DirCap, FileCap>(in.printfStyle, fileName, dir,
         extension, single, padding, _zkString<DirCap>(QString::fromUtf8(in.database)),
         _zkString<DirCap>(QString::fromUtf8(in.scene)));
-    return { dir.toQString(), fileName.toQString(), extension.toQString(), single, padding };
-}
-
-/// The split as "dir|fileName|extension|single|padding", single as 0 or 1.
-template <int DirCap, int FileCap>
-std::string described(const SplitIn& in)
-{
-    const SplitOut out = split<DirCap, FileCap>(in);
-    return (QStringList { out.dir, out.fileName, out.extension, QString::number(out.singleFile),
-                QString::number(out.padding) }
+    return (QStringList { dir.toQString(), fileName.toQString(), extension.toQString(),
+                QString::number(single), QString::number(padding) }
                 .join(u'|'))
         .toStdString();
 }
@@ -118,12 +102,11 @@ TEST(ImageNameSplit, ResultsAreCutToTheirCapacities)
     const std::string longDir(500, 'a');
     const std::string dir = "/abcdefghij/" + std::string(488, 'x');
     const std::string dir1000 = "/abcdefghij/" + std::string(988, 'x');
-    const QString cut[] = { split<500, 250>({ "img.#.exr", longDir.c_str() }).dir,
-        split<500, 250>({ "img.#.exr", dir.c_str(), false, "/abcdefghij/s.hip" }).dir,
-        split<1000, 1000>({ "img.#.exr", dir1000.c_str(), false, "/abcdefghij/s.hip" }).dir };
-    EXPECT_EQ(cut[0], QString(500, u'a'));
-    EXPECT_EQ(cut[1], QStringLiteral("<SceneFolder>") + QString(487, u'x'));
-    EXPECT_EQ(cut[2].size(), 1000);
+    EXPECT_EQ((described<500, 250>({ "img.#.exr", longDir.c_str() })), longDir + "|img.|.exr|0|1");
+    EXPECT_EQ((described<500, 250>({ "img.#.exr", dir.c_str(), false, "/abcdefghij/s.hip" })),
+        "<SceneFolder>" + std::string(487, 'x') + "|img.|.exr|0|1");
+    EXPECT_EQ((described<1000, 1000>({ "img.#.exr", dir1000.c_str(), false, "/abcdefghij/s.hip" })),
+        "<SceneFolder>" + std::string(987, 'x') + "|img.|.exr|0|1");
 
     // A single file's name and extension together are cut to the file capacity.
     const std::string name(250, 'm');
