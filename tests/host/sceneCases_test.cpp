@@ -42,9 +42,10 @@ void PrintTo(const SceneCase& c, std::ostream* os)
 std::vector<SceneCase> findCases()
 {
     const QDir dir(CasesDir);
+    const QStringList suffixes = QStringList(SceneSuffixes) << ExpectSuffix;
     QStringList names;
     for (const QString& file : dir.entryList(QDir::Files, QDir::Name)) {
-        for (const QString& suffix : QStringList(SceneSuffixes) << ExpectSuffix) {
+        for (const QString& suffix : suffixes) {
             if (file.endsWith(suffix) && !names.contains(file.chopped(suffix.size())))
                 names << file.chopped(suffix.size());
         }
