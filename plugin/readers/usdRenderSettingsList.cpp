@@ -15,11 +15,6 @@ int _USD_RSList::findIndex(QString const& nodePath, bool const& create)
     return elementSection::findByNodePath(list, nodePath, create);
 }
 
-int _USD_RSList::findIndexByROP(QString const& driverPath) const
-{
-    return elementSection::findByRenderNode(list, driverPath);
-}
-
 int _USD_RSList::addFromROP(QString name, QString const& driverPath)
 {
     const int index = findIndex(elementSection::unwrapChsop(name), true);

@@ -24,7 +24,6 @@ class _USD_RSList
 {
 public:
     int findIndex(QString const& nodePath, bool const& create);
-    int findIndexByROP(QString const& driverPath) const;
     int addFromROP(QString name, QString const& driverPath);
     int add(_USD_RendersettingNode& node);
 

@@ -326,3 +326,7 @@ name1	[ 0	locks=0 ]	(	scale	)
 range1	[ 0	locks=0 ]	(	0,5	1,5	)
 steps1	[ 0	locks=0 ]	(	3	)
 }
+out/mantra1.parm {
+vm_picture	[ 0	locks=0 ]	(	"$HIP/r/$OS.$F4.exr"	)
+camera	[ 0	locks=0 ]	(	/obj/stereocam_rig	)
+}

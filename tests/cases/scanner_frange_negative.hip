@@ -1,1 +1,4 @@
 frange -5 -1
+out/show.parm {
+vm_picture	[ 0	locks=0 ]	(	"$HIP/r/$OS.$F4.exr"	)
+}

@@ -5,3 +5,6 @@ take name
 Take name Upper
 tak name X
 take nameless
+out/show.parm {
+vm_picture	[ 0	locks=0 ]	(	"$HIP/r/$OS.$F4.exr"	)
+}

@@ -10,3 +10,6 @@ set -g NOSPACE='x'
 set -gGLUED = 'x'
 sopflags sopflags = 
 Hou = 'w' set -g BACK
+out/show.parm {
+vm_picture	[ 0	locks=0 ]	(	"$HIP/v/$JOB/$X/$A/$SPACED/$BACK/$NOTVAR$NOSPACE$GLUED/e$EMPTY$ONE.$F4.exr"	)
+}

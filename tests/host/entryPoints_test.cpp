@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <memory>
@@ -20,43 +21,23 @@ using HostLoad = zkHost::SceneLoad;
 
 constexpr unsigned char Pattern = 0xCD;
 
-class EntryPoints : public ::testing::Test
+zkHost::Plugin plugin;
+
+struct EntryPoints : ::testing::Test
 {
-protected:
     static void SetUpTestSuite()
     {
         QString error;
         ASSERT_TRUE(plugin.open(QStringLiteral(ZK_PLUGIN_PATH), error)) << qPrintable(error);
     }
-    static int info(zkP::_dataPARS_PluginInfo* r) { return plugin.info(r); }
-    static int load(zkP::_dataPARS_LoadSceneFile* r) { return plugin.load(r); }
-
-    static zkHost::Plugin plugin;
 };
 
-zkHost::Plugin EntryPoints::plugin;
-
-QString exampleScene()
-{
-    return QStringLiteral(ZK_SOURCE_DIR "/examples/simple.hip");
-}
-
-std::unique_ptr<zkP::_dataPARS_PluginInfo> patternedInfo(unsigned short identifier)
-{
-    auto r = std::make_unique<zkP::_dataPARS_PluginInfo>();
-    std::memset(static_cast<void*>(r.get()), Pattern, sizeof(*r));
-    r->structureID = identifier;
-    return r;
-}
+const QString ExampleScene = QStringLiteral(ZK_SOURCE_DIR "/examples/simple.hip");
 
 bool untouched(const void* p, size_t n)
 {
     const auto* b = static_cast<const unsigned char*>(p);
-    for (size_t i = 0; i < n; ++i) {
-        if (b[i] != Pattern)
-            return false;
-    }
-    return true;
+    return std::all_of(b, b + n, [](unsigned char c) { return c == Pattern; });
 }
 
 // ---- pInfo ----------------------------------------------------------------
@@ -65,28 +46,25 @@ TEST_F(EntryPoints, InfoWritesItsFieldsAndOnlyThose)
 {
     for (const unsigned short identifier : { 45061, 1234 }) {
         const bool matching = identifier == 45061;
-        auto r = patternedInfo(identifier);
-        EXPECT_EQ(info(r.get()), matching ? 1 : 5);
-        EXPECT_EQ(r->structureID, 45061);
-        EXPECT_EQ(r->infoVersion, 1);
-        EXPECT_EQ(r->appName.toQString(), QStringLiteral("Houdini"));
-        EXPECT_GT(r->author.length, 0);
-        EXPECT_LE(r->author.length, 100);
-        EXPECT_EQ(r->author.data[r->author.length], 0);
-        EXPECT_EQ(r->pluginVersion.toQString(), QStringLiteral("1.0"));
-        EXPECT_EQ(r->managerVersion.toQString(), QStringLiteral(" 8.4.00"));
-        // Qt's version is cut to 25 characters and terminated.
-        const QByteArray qt = QByteArray(qVersion()).left(25);
-        EXPECT_EQ(r->qtVersion.toQString(), QString::fromLatin1(qt));
-        EXPECT_EQ(r->qtVersion.data[qt.size()], 0);
+        auto r = std::make_unique<zkP::_dataPARS_PluginInfo>();
+        std::memset(static_cast<void*>(r.get()), Pattern, sizeof(*r));
+        r->structureID = identifier;
+        EXPECT_EQ(plugin.info(r.get()), matching ? 1 : 5);
+        // Qt's version is cut to 25 characters; the author is not empty.
+        EXPECT_EQ(QStringList({ QString::number(r->structureID), QString::number(r->infoVersion),
+                                  r->appName.toQString(), r->pluginVersion.toQString(),
+                                  r->managerVersion.toQString(), r->qtVersion.toQString() })
+                      .join(u'|'),
+            QStringLiteral("45061|1|Houdini|1.0| 8.4.00|") + QLatin1String(qVersion()).left(25));
+        EXPECT_TRUE(r->author.length > 0 && r->author.length <= 100);
+        EXPECT_EQ(r->author.data[r->author.length] + r->qtVersion.data[r->qtVersion.length], 0);
         // Bytes the plugin does not own keep the host's values; with a foreign
         // identifier neither the flag byte nor the file filter is written.
-        EXPECT_TRUE(untouched(r->reserved4, sizeof(r->reserved4)));
-        EXPECT_TRUE(untouched(r->reserved1F3, sizeof(r->reserved1F3)));
-        EXPECT_TRUE(untouched(&r->appName.data[8], 2 * (50 - 7)));
+        EXPECT_TRUE(untouched(r->reserved4, sizeof(r->reserved4))
+            && untouched(r->reserved1F3, sizeof(r->reserved1F3))
+            && untouched(&r->appName.data[8], 2 * (50 - 7)));
         if (!matching) {
-            EXPECT_EQ(r->flag, Pattern);
-            EXPECT_TRUE(untouched(&r->fileFilter, sizeof(r->fileFilter)));
+            EXPECT_TRUE(r->flag == Pattern && untouched(&r->fileFilter, sizeof(r->fileFilter)));
             continue;
         }
         EXPECT_EQ(r->flag, 0);
@@ -100,20 +78,13 @@ TEST_F(EntryPoints, InfoWritesItsFieldsAndOnlyThose)
 
 TEST_F(EntryPoints, UnsupportedArrayIsRefusedBeforeAnythingIsRead)
 {
-    struct Row
+    const struct
     {
-        const char* what;
         unsigned int recordSize;
-        unsigned short structureVersion;
-        unsigned short structureID;
-    };
-    const Row rows[] = {
-        { "compact record size", 30376, 1, 1033 },
-        { "layout version 0", 226968, 0, 1033 },
-        { "foreign structure", 226968, 1, 1 },
-    };
-    for (const Row& row : rows) {
-        HostLoad host(exampleScene());
+        unsigned short structureVersion, structureID;
+    } rows[] = { { 30376, 1, 1033 }, { 226968, 0, 1033 }, { 226968, 1, 1 } };
+    for (const auto& row : rows) {
+        HostLoad host(ExampleScene);
         host.jobs.array->recordSize = row.recordSize;
         host.jobs.array->structureVersion = row.structureVersion;
         host.jobs.array->structureID = row.structureID;
@@ -121,9 +92,8 @@ TEST_F(EntryPoints, UnsupportedArrayIsRefusedBeforeAnythingIsRead)
         host.settings.block->argc = 1000;
         host.settings.block->argv = reinterpret_cast<char**>(std::uintptr_t(8));
         host.record.sceneFile = reinterpret_cast<_zkString<500>*>(std::uintptr_t(8));
-        EXPECT_EQ(load(&host.record), 5) << row.what;
-        EXPECT_EQ(host.jobs.array->count, 0);
-        EXPECT_EQ(host.jobs.array->records, nullptr);
+        EXPECT_EQ(plugin.load(&host.record), 5) << row.recordSize << ' ' << row.structureID;
+        EXPECT_TRUE(host.jobs.array->count == 0 && host.jobs.array->records == nullptr);
     }
 }
 
@@ -138,7 +108,7 @@ TEST_F(EntryPoints, UnreadableScenesGiveThree)
     for (const QString& path :
         { dir.filePath(QStringLiteral("missing.hip")), dir.path(), fifo, QString() }) {
         HostLoad host(path);
-        EXPECT_EQ(load(&host.record), 3) << qPrintable(path);
+        EXPECT_EQ(plugin.load(&host.record), 3) << qPrintable(path);
         EXPECT_EQ(host.jobs.array->count, 0);
         EXPECT_TRUE(host.jobs.array->arrayText.isEmpty());
     }
@@ -148,13 +118,11 @@ TEST_F(EntryPoints, UnreadableScenesGiveThree)
 
 TEST_F(EntryPoints, NoSettingsBlockOrNullArgumentsAreHarmless)
 {
-    HostLoad host(exampleScene(), { QStringLiteral("-customRenVer_Arnold") });
+    HostLoad host(ExampleScene, { QStringLiteral("-customRenVer_Arnold") });
     host.settings.argv[1] = nullptr; // a hole in the vector
-    EXPECT_EQ(load(&host.record), 1);
-
-    HostLoad bare(exampleScene());
-    bare.record.settings = nullptr;
-    EXPECT_EQ(load(&bare.record), 1);
+    EXPECT_EQ(plugin.load(&host.record), 1);
+    host.record.settings = nullptr;
+    EXPECT_EQ(plugin.load(&host.record), 1);
 }
 
 } // namespace

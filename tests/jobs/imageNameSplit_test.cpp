@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 
 using namespace zkJ;
 
@@ -20,17 +21,9 @@ struct SplitIn
     unsigned char padding = 9;
 };
 
-struct SplitOut
-{
-    QString dir;
-    QString fileName;
-    QString extension;
-    bool singleFile;
-    int padding;
-};
-
+/// The split as "dir|fileName|extension|single|padding", single as 0 or 1.
 template <int DirCap, int FileCap>
-SplitOut split(const SplitIn& in)
+std::string described(const SplitIn& in)
 {
     _zkString<FileCap> fileName(QString::fromUtf8(in.fileName));
     _zkString<DirCap> dir(QString::fromUtf8(in.dir));
@@ -40,225 +33,129 @@ SplitOut split(const SplitIn& in)
     template_splitImageFileInto_DirFileExt<DirCap, FileCap>(in.printfStyle, fileName, dir,
         extension, single, padding, _zkString<DirCap>(QString::fromUtf8(in.database)),
         _zkString<DirCap>(QString::fromUtf8(in.scene)));
-    return { dir.toQString(), fileName.toQString(), extension.toQString(), single, padding };
-}
-
-struct SplitCase
-{
-    const char* what;
-    SplitIn in;
-    const char* dir;
-    const char* fileName;
-    const char* extension;
-    bool singleFile;
-    int padding;
-};
-
-void runCases(const SplitCase* begin, const SplitCase* end)
-{
-    for (const SplitCase* c = begin; c != end; ++c) {
-        for (const SplitOut& out : { split<1000, 1000>(c->in), split<500, 250>(c->in) }) {
-            EXPECT_EQ(out.dir.toStdString(), c->dir) << c->what;
-            EXPECT_EQ(out.fileName.toStdString(), c->fileName) << c->what;
-            EXPECT_EQ(out.extension.toStdString(), c->extension) << c->what;
-            EXPECT_EQ(out.singleFile, c->singleFile) << c->what;
-            EXPECT_EQ(out.padding, c->padding) << c->what;
-        }
-    }
+    return (QStringList { dir.toQString(), fileName.toQString(), extension.toQString(),
+                QString::number(single), QString::number(padding) }
+                .join(u'|'))
+        .toStdString();
 }
 
 } // namespace
 
-TEST(ImageNameSplit, FrameTokens)
-{
-    const SplitCase cases[] = {
-        { "hashes", { "/proj/render/beauty.####.exr" }, "/proj/render/", "beauty.", ".exr", false,
-            4 },
-        { "hashes in brackets", { "/r/beauty.[####].exr" }, "/r/", "beauty.", ".exr", false, 4 },
-        { "one hash", { "/r/beauty_#.exr" }, "/r/", "beauty_", ".exr", false, 1 },
-        { "printf", { "beauty.%04d.exr", "/r/", true }, "/r/", "beauty.", ".exr", false, 4 },
-        { "printf without width", { "beauty.%d.exr", "/r/", true }, "/r/", "beauty.", ".exr", false,
-            1 },
-        { "printf with hashes behind", { "b.%3d.#.exr", "/r/", true }, "/r/", "b.", "..exr", false,
-            3 },
-        { "printf off", { "beauty.%04d.exr", "/r/" }, "/r/", "beauty.%04d", ".exr", false, 9 },
-        { "printf on, d before %", { "/d%x.####.exr", "", true }, "/", "d%x.", ".exr", false, 4 },
-        { "written frame number", { "/r/beauty.0001.exr" }, "/r/", "beauty.", ".exr", false, 9 },
-        { "digits only", { "/r/1234.exr" }, "/r/", "1", ".exr", false, 9 },
-        { "no dot", { "/r/beauty" }, "/r/", "beauty", "", false, 9 },
-        { "long extension cut", { "/r/a.#.abcdefghijklmnopqrstuvwxyz0123" }, "/r/", "a.",
-            ".abcdefghijklmnopqrstuvwx", false, 1 },
-    };
-    runCases(std::begin(cases), std::end(cases));
-}
-
-TEST(ImageNameSplit, SingleFileOutputs)
-{
-    const SplitCase cases[] = {
-        { "video", { "/r/movie.mov" }, "/r/", "movie.mov", "", true, 9 },
-        { "video per frame token", { "/r/movie.####.MP4" }, "/r/", "movie.####.MP4", "", true, 4 },
-        { "vrscene", { "/r/scene.vrscene" }, "/r/", "scene.vrscene", "", true, 9 },
-        { "vrscene per frame", { "/r/scene.####.vrscene" }, "/r/", "scene.", ".vrscene", false, 4 },
-        { "vrscene with extension given", { "scene", "/r/", false, "", "", ".vrscene" }, "/r/",
-            "scene", ".vrscene", false, 9 },
-        { "file job", { "/r/no_check.file" }, "/r/", "no_check.file", "", false, 9 },
-        { "file job, other case", { "/r/JOB.FILE" }, "/r/", "JOB.FILE", "", false, 9 },
-        { "extension given", { "beauty.exr", "/r/", false, "", "", ".exr" }, "/r/", "beauty",
-            ".exr", false, 9 },
-        { "single on entry", { "movie", "/r/", false, "", "", ".mov", true }, "/r/", "movie.mov",
-            "", true, 9 },
-    };
-    runCases(std::begin(cases), std::end(cases));
-}
-
-TEST(ImageNameSplit, SeparatorsAndDrives)
-{
-    const SplitCase cases[] = {
-        { "backslashes", { "C:\\proj\\img.####.exr" }, "C:\\proj\\", "img.", ".exr", false, 4 },
-        { "slash first", { "/proj\\sub/img.####.exr" }, "/proj/sub/", "img.", ".exr", false, 4 },
-        { "backslash first", { "C:\\proj/sub\\img.#.exr" }, "C:\\proj\\sub\\", "img.", ".exr",
-            false, 1 },
-        { "dir follows the file's separator", { "img.#.exr", "C:\\out\\sub" }, "C:/out/sub/",
-            "img.", ".exr", false, 1 },
-        { "doubled", { "/proj//render///img.####.exr" }, "/proj/render/", "img.", ".exr", false,
-            4 },
-        { "four slashes", { "/a////b/img.#.exr" }, "/a/b/", "img.", ".exr", false, 1 },
-        { "network path kept", { "//server/share//img.####.exr" }, "//server/share/", "img.",
-            ".exr", false, 4 },
-        { "four backslashes", { "\\\\\\\\server\\img.#.exr" }, "\\\\server\\", "img.", ".exr",
-            false, 1 },
-        { "drive without separator", { "C:render\\beauty.####.exr" }, "C:\\render\\", "beauty.",
-            ".exr", false, 4 },
-        { "drive, slash", { "beauty.#.exr", "C:render" }, "C:/render/", "beauty.", ".exr", false,
-            1 },
-        { "doubled in given dir", { "img.#.exr", "/r//x" }, "/r/x/", "img.", ".exr", false, 1 },
-        { "no directory", { "img.#.exr" }, "", "img.", ".exr", false, 1 },
-    };
-    runCases(std::begin(cases), std::end(cases));
-}
-
-TEST(ImageNameSplit, TokensStopTheDirectorySearch)
-{
-    const SplitCase cases[] = {
-        { "layer", { "/r/<Layer>/img.####.exr" }, "/r/", "<Layer>/img.", ".exr", false, 4 },
-        { "layer, other case", { "/r/<layer>/img.####.exr" }, "/r/", "<layer>/img.", ".exr", false,
-            4 },
-        { "camera", { "/r/<Camera>/sub/img.#.exr" }, "/r/", "<Camera>/sub/img.", ".exr", false, 1 },
-        { "channel", { "/r/x/<Channel_a>/i.#.exr" }, "/r/x/", "<Channel_a>/i.", ".exr", false, 1 },
-        { "value var", { "/r/<ValueVar @$AOV./>/i.#.exr" }, "/r/", "<ValueVar @$AOV./>/i.", ".exr",
-            false, 1 },
-        { "first token wins", { "/r/a<removeVar x>/b<Layer>/i.#.exr" }, "/r/",
-            "a<removeVar x>/b<Layer>/i.", ".exr", false, 1 },
-        { "userpass", { "/r/userpass>/i.#.exr" }, "/r/", "userpass>/i.", ".exr", false, 1 },
-    };
-    runCases(std::begin(cases), std::end(cases));
-}
-
-TEST(ImageNameSplit, SceneFolderAndDatabase)
+// A picture value reaches the split with no directory, no extension and the
+// printf flag set: those rows are the drivers of the scene case split_pictures.
+// Here are the forms a picture cannot give, and scene folders (a driver's job
+// has no scene name yet when it is split). Padding 9 means "unchanged".
+TEST(ImageNameSplit, FormsAPictureCannotGive)
 {
     const char* scene = "/projects1/shots/seq01/sh010/scene.hip";
-    const SplitCase cases[] = {
-        { "scene folder", { "/projects1/shots/seq01/sh010/render/i.#.exr", "", false, scene },
-            "<SceneFolder>render/", "i.", ".exr", false, 1 },
-        { "one up", { "/projects1/shots/seq01/comp/i.#.exr", "", false, scene },
-            "<SceneFolder>../comp/", "i.", ".exr", false, 1 },
-        { "two up", { "/projects1/shots/other/i.#.exr", "", false, scene },
-            "<SceneFolder>../../other/", "i.", ".exr", false, 1 },
-        { "three up", { "/projects1/renders/i.#.exr", "", false, scene },
-            "<SceneFolder>../../../renders/", "i.", ".exr", false, 1 },
-        { "folder of 10 characters is too short",
-            { "/projects/x/i.#.exr", "", false, "/projects/s.hip" }, "/projects/x/", "i.", ".exr",
-            false, 1 },
-        { "case matters", { "/Projects1/shots/seq01/sh010/i.#.exr", "", false, scene },
-            "/Projects1/shots/seq01/sh010/", "i.", ".exr", false, 1 },
-        { "backslash scene",
-            { "C:\\projects\\sh010\\render\\i.#.exr", "", false, "C:/projects/sh010/scene.hip" },
-            "<SceneFolder>render\\", "i.", ".exr", false, 1 },
-        { "sibling: one up", { "/proj/shots/out/i.#.exr", "", false, "/proj/shots/sh010/s.hip" },
-            "<SceneFolder>../out/", "i.", ".exr", false, 1 },
-        { "database without slash", { "/proj/db/render/i.#.exr", "", false, "", "/proj/db" },
-            "<Database>/render/", "i.", ".exr", false, 1 },
-        { "database with slash", { "/proj/db/render/i.#.exr", "", false, "", "/proj/db/" },
-            "<Database>render/", "i.", ".exr", false, 1 },
-        { "database is a prefix of a name only", { "/proj/dbx/i.#.exr", "", false, "", "/proj/db" },
-            "/proj/dbx/", "i.", ".exr", false, 1 },
-        { "scene folder before database",
-            { "/proj/db/scenes/render/i.#.exr", "", false, "/proj/db/scenes/a.hip", "/proj/db" },
-            "<SceneFolder>render/", "i.", ".exr", false, 1 },
-        { "database before parents",
-            { "/proj/database/render/i.#.exr", "", false, "/proj/database/scenes/a.hip",
-                "/proj/database" },
-            "<Database>/render/", "i.", ".exr", false, 1 },
+    const struct
+    {
+        SplitIn in;
+        const char* out;
+    } rows[] = {
+        { { "beauty.%04d.exr", "/r/" }, "/r/|beauty.%04d|.exr|0|9" }, // printf off
+        { { "scene", "/r/", false, "", "", ".vrscene" }, "/r/|scene|.vrscene|0|9" },
+        { { "beauty.exr", "/r/", false, "", "", ".exr" }, "/r/|beauty|.exr|0|9" },
+        { { "movie", "/r/", false, "", "", ".mov", true }, "/r/|movie.mov||1|9" },
+        { { "img.#.exr", "C:\\out\\sub" }, "C:/out/sub/|img.|.exr|0|1" },
+        { { "beauty.#.exr", "C:render" }, "C:/render/|beauty.|.exr|0|1" },
+        { { "img.#.exr", "/r//x" }, "/r/x/|img.|.exr|0|1" },
+        { { "/r/<ValueVar @$AOV./>/i.#.exr" }, "/r/|<ValueVar @$AOV./>/i.|.exr|0|1" },
+        { { "/projects1/shots/seq01/sh010/render/i.#.exr", "", false, scene },
+            "<SceneFolder>render/|i.|.exr|0|1" },
+        { { "/projects1/shots/seq01/comp/i.#.exr", "", false, scene },
+            "<SceneFolder>../comp/|i.|.exr|0|1" },
+        { { "/projects1/shots/other/i.#.exr", "", false, scene },
+            "<SceneFolder>../../other/|i.|.exr|0|1" },
+        { { "/projects1/renders/i.#.exr", "", false, scene },
+            "<SceneFolder>../../../renders/|i.|.exr|0|1" },
+        // A folder of 10 characters is too short; case matters.
+        { { "/projects/x/i.#.exr", "", false, "/projects/s.hip" }, "/projects/x/|i.|.exr|0|1" },
+        { { "/Projects1/shots/seq01/sh010/i.#.exr", "", false, scene },
+            "/Projects1/shots/seq01/sh010/|i.|.exr|0|1" },
+        { { "C:\\projects\\sh010\\render\\i.#.exr", "", false, "C:/projects/sh010/scene.hip" },
+            "<SceneFolder>render\\|i.|.exr|0|1" },
+        { { "/proj/shots/out/i.#.exr", "", false, "/proj/shots/sh010/s.hip" },
+            "<SceneFolder>../out/|i.|.exr|0|1" },
+        { { "/proj/db/render/i.#.exr", "", false, "", "/proj/db" },
+            "<Database>/render/|i.|.exr|0|1" },
+        { { "/proj/db/render/i.#.exr", "", false, "", "/proj/db/" },
+            "<Database>render/|i.|.exr|0|1" },
+        { { "/proj/dbx/i.#.exr", "", false, "", "/proj/db" }, "/proj/dbx/|i.|.exr|0|1" },
+        // The scene folder before the database, the database before the parents.
+        { { "/proj/db/scenes/render/i.#.exr", "", false, "/proj/db/scenes/a.hip", "/proj/db" },
+            "<SceneFolder>render/|i.|.exr|0|1" },
+        { { "/proj/database/render/i.#.exr", "", false, "/proj/database/scenes/a.hip",
+              "/proj/database" },
+            "<Database>/render/|i.|.exr|0|1" },
     };
-    runCases(std::begin(cases), std::end(cases));
+    for (const auto& row : rows) {
+        EXPECT_EQ((described<1000, 1000>(row.in)), row.out) << row.in.fileName;
+        EXPECT_EQ((described<500, 250>(row.in)), row.out) << row.in.fileName;
+    }
 }
 
 TEST(ImageNameSplit, ResultsAreCutToTheirCapacities)
 {
-    // A 500-unit directory has no room for the closing separator.
+    // A 500-unit directory has no room for the closing separator; the
+    // scene-folder token is longer than the folder it replaces.
     const std::string longDir(500, 'a');
-    SplitOut out = split<500, 250>({ "img.#.exr", longDir.c_str() });
-    EXPECT_EQ(out.dir.size(), 500);
-    EXPECT_FALSE(out.dir.endsWith(u'/'));
-
-    // The scene-folder token is longer than the folder it replaces.
     const std::string dir = "/abcdefghij/" + std::string(488, 'x');
-    out = split<500, 250>({ "img.#.exr", dir.c_str(), false, "/abcdefghij/s.hip" });
-    EXPECT_EQ(out.dir.size(), 500);
-    EXPECT_TRUE(out.dir.startsWith(QStringLiteral("<SceneFolder>xxx")));
-
     const std::string dir1000 = "/abcdefghij/" + std::string(988, 'x');
-    const SplitOut large
-        = split<1000, 1000>({ "img.#.exr", dir1000.c_str(), false, "/abcdefghij/s.hip" });
-    EXPECT_EQ(large.dir.size(), 1000);
+    EXPECT_EQ((described<500, 250>({ "img.#.exr", longDir.c_str() })), longDir + "|img.|.exr|0|1");
+    EXPECT_EQ((described<500, 250>({ "img.#.exr", dir.c_str(), false, "/abcdefghij/s.hip" })),
+        "<SceneFolder>" + std::string(487, 'x') + "|img.|.exr|0|1");
+    EXPECT_EQ((described<1000, 1000>({ "img.#.exr", dir1000.c_str(), false, "/abcdefghij/s.hip" })),
+        "<SceneFolder>" + std::string(987, 'x') + "|img.|.exr|0|1");
 
     // A single file's name and extension together are cut to the file capacity.
     const std::string name(250, 'm');
-    out = split<500, 250>({ name.c_str(), "/r/", false, "", "", ".mov", true });
-    EXPECT_EQ(out.fileName, QString(250, u'm'));
-    EXPECT_TRUE(out.extension.isEmpty());
-    const SplitOut wide = split<500, 500>({ name.c_str(), "/r/", false, "", "", ".mov", true });
-    EXPECT_EQ(wide.fileName, QString(250, u'm') + QStringLiteral(".mov"));
+    EXPECT_EQ((described<500, 250>({ name.c_str(), "/r/", false, "", "", ".mov", true })),
+        "/r/|" + name + "||1|9");
+    EXPECT_EQ((described<500, 500>({ name.c_str(), "/r/", false, "", "", ".mov", true })),
+        "/r/|" + name + ".mov||1|9");
 }
 
-TEST(ImageNameSplit, CompactJobSplitsChannelsFirst)
+/// The main image, then every non-empty channel slot, as "dir+file|ext".
+template <typename Job>
+std::string images(const Job& job, const QStringList& channels)
 {
-    auto job = std::make_unique<_JobBasics>();
-    job->imageFileName.set(QStringLiteral("/projects1/sh/render/beauty.####.exr"));
-    job->sceneName.set(QStringLiteral("/projects1/sh/scene.hip"));
-    job->channelAdd(_zkString<500>("diffuse.####.exr"), _zkString<25>());
-    job->channelAdd(_zkString<500>("/projects1/sh/aov/spec.%03d.exr"), _zkString<25>());
-    job->channelAdd(_zkString<500>("<Channel>.####.exr"), _zkString<25>());
-    job->splitImageFileInto_DirFileExt(true);
-
-    EXPECT_EQ(job->imageDir.toQString(), QStringLiteral("<SceneFolder>render/"));
-    EXPECT_EQ(job->imageFileName.toQString(), QStringLiteral("beauty."));
-    EXPECT_EQ(job->imageExtension.toQString(), QStringLiteral(".exr"));
-    EXPECT_EQ(job->padding, 4);
-    // The directory was still empty when the channels were split.
-    EXPECT_EQ(job->channelFileName(0).toQString(), QStringLiteral("diffuse."));
-    EXPECT_EQ(job->channelExtension(0).toQString(), QStringLiteral(".exr"));
-    EXPECT_EQ(job->channelFileName(1).toQString(), QStringLiteral("<SceneFolder>aov/spec."));
-    EXPECT_EQ(job->channelFileName(2).toQString(), QStringLiteral("<Channel>."));
-    // The channels' own padding does not reach the job.
-    EXPECT_EQ(job->channelCount, 3);
+    QStringList out { job.imageDir.toQString() + job.imageFileName.toQString() + u'|'
+        + job.imageExtension.toQString() + u'|' + QString::number(job.padding) };
+    return (out + channels).join(u' ').toStdString();
 }
 
-TEST(ImageNameSplit, RelativeChannelsTakeTheGivenDirectory)
+TEST(ImageNameSplit, ChannelsAreSplitFirstWithTheGivenDirectory)
 {
-    auto job = std::make_unique<_JobBasics_largePath>();
-    job->imageDir.set(QStringLiteral("C:\\render\\"));
-    job->imageFileName.set(QStringLiteral("beauty.####.exr"));
-    job->channels[0].fileName.set(QStringLiteral("diff.####.exr"));
-    job->channels[2].fileName.set(QStringLiteral("D:/aov/spec.#.exr"));
-    job->channels[3].fileName.set(QStringLiteral("x"));
-    job->splitImageFileInto_DirFileExt(false);
+    auto compact = std::make_unique<_JobBasics>();
+    compact->imageFileName.set(QStringLiteral("/projects1/sh/render/beauty.####.exr"));
+    compact->sceneName.set(QStringLiteral("/projects1/sh/scene.hip"));
+    for (const char* name :
+        { "diffuse.####.exr", "/projects1/sh/aov/spec.%03d.exr", "<Channel>.####.exr" })
+        compact->channelAdd(_zkString<500>(name), _zkString<25>());
+    compact->splitImageFileInto_DirFileExt(true);
+    QStringList channels;
+    for (int k = 0; k < compact->channelCount; ++k)
+        channels << compact->channelFileName(k).toQString() + u'|'
+                + compact->channelExtension(k).toQString();
+    // The directory was still empty when the channels were split; their own
+    // padding does not reach the job.
+    EXPECT_EQ(images(*compact, channels),
+        "<SceneFolder>render/beauty.|.exr|4 diffuse.|.exr <SceneFolder>aov/spec.|.exr "
+        "<Channel>.|.exr");
 
-    EXPECT_EQ(job->imageDir.toQString(), QStringLiteral("C:/render/"));
-    EXPECT_EQ(job->padding, 4);
-    EXPECT_EQ(job->channels[0].fileName.toQString(), QStringLiteral("C:\\render\\diff."));
-    EXPECT_EQ(job->channels[0].extension.toQString(), QStringLiteral(".exr"));
-    EXPECT_TRUE(job->channels[1].fileName.isEmpty());
-    EXPECT_EQ(job->channels[2].fileName.toQString(), QStringLiteral("D:/aov/spec."));
-    EXPECT_EQ(job->channels[3].fileName.toQString(), QStringLiteral("C:\\render\\x"));
+    auto large = std::make_unique<_JobBasics_largePath>();
+    large->imageDir.set(QStringLiteral("C:\\render\\"));
+    large->imageFileName.set(QStringLiteral("beauty.####.exr"));
+    large->channels[0].fileName.set(QStringLiteral("diff.####.exr"));
+    large->channels[2].fileName.set(QStringLiteral("D:/aov/spec.#.exr"));
+    large->channels[3].fileName.set(QStringLiteral("x"));
+    large->splitImageFileInto_DirFileExt(false);
+    channels.clear();
+    for (const auto& slot : large->channels) {
+        if (!slot.fileName.isEmpty())
+            channels << slot.fileName.toQString() + u'|' + slot.extension.toQString();
+    }
+    EXPECT_EQ(images(*large, channels),
+        "C:/render/beauty.|.exr|4 C:\\render\\diff.|.exr D:/aov/spec.|.exr C:\\render\\x|");
 }

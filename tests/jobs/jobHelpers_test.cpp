@@ -1,3 +1,5 @@
+// Helpers the host calls on job records; the plugin itself calls none of them,
+// except the display name, which the scene cases show as sceneDisplayName.
 #include "jobs/ZK_DataTypes_jobs0_Basics.h"
 #include "jobs/ZK_DataTypes_jobs_defines.h"
 
@@ -7,63 +9,47 @@
 
 using namespace zkJ;
 
-TEST(SquareBracketVariables, TableConversion)
+TEST(SquareBracketVariables, TableConversionInJobPaths)
 {
-    const struct
-    {
-        const char* in;
-        const char* out;
-    } cases[] = {
+    const char* rows[][2] = {
         { "/r/[Layer]/[Camera]_[Channel].exr", "/r/<Layer>/<Camera>_<Channel>.exr" },
-        { "[Camera_no.]", "<Camera_no.>" },
-        { "[layer]_[SCENE]", "<Layer>_<Scene>" },
+        { "[Camera_no.][layer]_[SCENE]", "<Camera_no.><Layer>_<Scene>" },
         { "[User][LocalHost][CompanyProject][SceneFolder][Database][DatabaseName]",
             "<User><LocalHost><CompanyProject><SceneFolder><Database><DatabaseName>" },
-        { "/r/[Layer/img", "/r/[Layer/img" },
-        { "]Layer[", "]Layer[" },
-        { "[Unknown]", "[Unknown]" },
+        { "/r/[Layer/img]Layer[[Unknown]", "/r/[Layer/img]Layer[[Unknown]" },
     };
-    for (const auto& c : cases) {
-        _zkString<1000> text(QString::fromUtf8(c.in));
+    for (const auto& row : rows) {
+        _zkString<1000> text(QString::fromUtf8(row[0]));
         replaceSquareBracketVariablesSub(text);
-        EXPECT_EQ(text.toQString().toStdString(), c.out) << c.in;
+        EXPECT_EQ(text.toQString().toStdString(), row[1]);
     }
-}
 
-TEST(SquareBracketVariables, JobPathsAndChannels)
-{
     auto job = std::make_unique<_JobBasics_largePath>();
     job->imageDir.set(QStringLiteral("/r/[Scene]/"));
     job->imageFileName.set(QStringLiteral("[Layer]."));
     job->channels[7].fileName.set(QStringLiteral("/r/[Channel]."));
     job->sceneName.set(QStringLiteral("/s/[Layer].hip"));
     job->replaceSquareBracketVariables();
-    EXPECT_EQ(job->imageDir.toQString(), QStringLiteral("/r/<Scene>/"));
-    EXPECT_EQ(job->imageFileName.toQString(), QStringLiteral("<Layer>."));
-    EXPECT_EQ(job->channels[7].fileName.toQString(), QStringLiteral("/r/<Channel>."));
-    EXPECT_EQ(job->sceneName.toQString(), QStringLiteral("/s/[Layer].hip"));
+    EXPECT_EQ(job->imageDir.toQString() + job->imageFileName.toQString()
+            + job->channels[7].fileName.toQString() + job->sceneName.toQString(),
+        QStringLiteral("/r/<Scene>/<Layer>./r/<Channel>./s/[Layer].hip"));
 }
 
 TEST(SceneDisplayName, ShortensPaths)
 {
-    const struct
-    {
-        const char* scene;
-        const char* display;
-    } cases[] = {
+    const char* rows[][2] = {
         { "/proj/shots/sh010/scene.hip", ".../    sh010/    scene" },
         { "!anything/at.all", "!anything/at.all" },
         { "C:/proj/Scenes/shot.hip", ".../    proj/    shot" },
         { "C:/x.hip", "C:/x" },
-        { "/p/img.<FN4>.ifd", "/    p/    img." },
         { "/p/RENDER_pictures/a_<FN2>.hip", "/    p/    a_2" },
         { "a.b", "a.b" },
         { "", "" },
     };
     auto job = std::make_unique<_JobBasics>();
-    for (const auto& c : cases) {
-        job->sceneName.set(QString::fromUtf8(c.scene));
-        EXPECT_EQ(job->getSceneDisplayName().toStdString(), c.display) << c.scene;
+    for (const auto& row : rows) {
+        job->sceneName.set(QString::fromUtf8(row[0]));
+        EXPECT_EQ(job->getSceneDisplayName().toStdString(), row[1]) << row[0];
     }
 }
 
@@ -86,91 +72,65 @@ TEST(AuthString, DependsOnSceneAndID)
 
 TEST(SequenceShotVersion, Parts)
 {
+    const struct
+    {
+        const char* name;
+        const char* prefixes[6]; // first, second, third, then their suffixes
+        int firstLength, secondLength;
+        const char* parts; // the three parts after the call, "|" between them
+    } rows[] = {
+        { "sq010_sh020_v003", { "sq", "SH", "v", "", "", "" }, 0, 0, "010|020|003" },
+        // "none" keeps the earlier value; an empty prefix starts at the front.
+        { "ab.cd<x>", { "", "", "none", "", "", "" }, 0, 0, "ab|.cd|003" },
+        // Fixed lengths and suffixes.
+        { "SEQ01SH02-v7", { "", "sh", "-", "", "", "" }, 5, 2, "SEQ01|02|v7" },
+        { "sq010-sh020", { "", "-sh", "none", "-SH", "", "" }, 0, 0, "sq010|020|v7" },
+        // A missing prefix leaves its part empty; a missing third prefix ends the search.
+        { "sh020_v3", { "sq", "sh", "x", "", "", "" }, 0, 0, "|020|" },
+    };
     _zkString<50> first, second, third;
-    getSSV(QStringLiteral("sq010_sh020_v003"), first, second, third, QStringLiteral("sq"),
-        QStringLiteral("SH"), QStringLiteral("v"), QString(), QString(), QString(), 0, 0);
-    EXPECT_EQ(first.toQString(), QStringLiteral("010"));
-    EXPECT_EQ(second.toQString(), QStringLiteral("020"));
-    EXPECT_EQ(third.toQString(), QStringLiteral("003"));
-
-    // "none" keeps the earlier value; an empty prefix starts at the front.
-    third.set(QStringLiteral("keep"));
-    getSSV(QStringLiteral("ab.cd<x>"), first, second, third, QString(), QString(),
-        QStringLiteral("none"), QString(), QString(), QString(), 0, 0);
-    EXPECT_EQ(first.toQString(), QStringLiteral("ab"));
-    EXPECT_EQ(second.toQString(), QStringLiteral(".cd"));
-    EXPECT_EQ(third.toQString(), QStringLiteral("keep"));
-
-    // Fixed lengths and suffixes.
-    getSSV(QStringLiteral("SEQ01SH02-v7"), first, second, third, QString(), QStringLiteral("sh"),
-        QStringLiteral("-"), QString(), QString(), QString(), 5, 2);
-    EXPECT_EQ(first.toQString(), QStringLiteral("SEQ01"));
-    EXPECT_EQ(second.toQString(), QStringLiteral("02"));
-    EXPECT_EQ(third.toQString(), QStringLiteral("v7"));
-    getSSV(QStringLiteral("sq010-sh020"), first, second, third, QString(), QStringLiteral("-sh"),
-        QStringLiteral("none"), QStringLiteral("-SH"), QString(), QString(), 0, 0);
-    EXPECT_EQ(first.toQString(), QStringLiteral("sq010"));
-    EXPECT_EQ(second.toQString(), QStringLiteral("020"));
-
-    // A missing prefix leaves its part empty; a missing third prefix ends the search.
-    third.set(QStringLiteral("old"));
-    getSSV(QStringLiteral("sh020_v3"), first, second, third, QStringLiteral("sq"),
-        QStringLiteral("sh"), QStringLiteral("x"), QString(), QString(), QString(), 0, 0);
-    EXPECT_TRUE(first.isEmpty());
-    EXPECT_EQ(second.toQString(), QStringLiteral("020"));
-    EXPECT_TRUE(third.isEmpty());
-
+    for (const auto& row : rows) {
+        QString p[6];
+        for (int i = 0; i < 6; ++i)
+            p[i] = QString::fromUtf8(row.prefixes[i]);
+        getSSV(QString::fromUtf8(row.name), first, second, third, p[0], p[1], p[2], p[3], p[4],
+            p[5], row.firstLength, row.secondLength);
+        EXPECT_EQ(first.toQString() + u'|' + second.toQString() + u'|' + third.toQString(),
+            QString::fromUtf8(row.parts))
+            << row.name;
+    }
     getSSV(QString(70, u'n'), first, second, third, QString(), QString(), QString(), QString(),
         QString(), QString(), 0, 0);
     EXPECT_EQ(first.length, 50);
     EXPECT_TRUE(second.isEmpty());
 }
 
-TEST(DirectoryLevels, GetDirectoryNo)
+TEST(DirectoryLevels, NumberedLevelsAndEverythingUntilThem)
 {
     const struct
     {
         const char* path;
-        int no;
-        int count;
-        const char* result;
-    } cases[] = {
-        { "/a/b/c/d", 2, 2, "b_c" },
-        { "/a/b/c/d/e", 1, 3, "a_b_c" },
-        { "/a/b", 1, 1, "/a/b" },
-        { "/aa/bb/cc", 5, 1, "cc" },
-        { "/aa/bb/cc", 2, 5, "bb_cc" },
-        { "//srv/share/dir/x", 1, 1, "srv" },
-        { "C:/proj/x/y", 1, 1, "proj" },
-        { "proj/x/y", 2, 1, "x" },
+        int no, count;
+        const char* levels;
+        const char* until;
+    } rows[] = {
+        { "/a/b/c/d/e", 2, 2, "b_c", "/a/b/c/" },
+        { "/a/b/c/d/e", 1, 3, "a_b_c", "/a/b/c/" },
+        { "/a/b/c/d/e", 1, 1, "a", "/a/" },
+        { "/a/b", 1, 1, "/a/b", "/a/b" },
+        { "/aa/bb/cc", 5, 1, "cc", "/aa/bb/cc" },
+        { "/aa/bb/cc", 2, 5, "bb_cc", "/aa/bb/cc" },
+        { "//srv/share/dir/x", 1, 1, "srv", "//srv/share/" },
+        { "//srv/share/dir/x", 2, 1, "share", "//srv/share/" },
+        { "C:/proj/x/y", 1, 2, "proj_x", "C:/proj/x/" },
+        { "proj/x/y", 2, 1, "x", "proj/x/" },
+        { "//srv", 1, 1, "srv", "//srv" },
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(getDirectoryNo(QString::fromUtf8(c.path), c.no, c.count).toStdString(), c.result)
-            << c.path << " " << c.no << " " << c.count;
-    }
-}
-
-TEST(DirectoryLevels, GetDirectoryUntilNo)
-{
-    const struct
-    {
-        const char* path;
-        int no;
-        int count;
-        const char* result;
-    } cases[] = {
-        { "/a/b/c/d/e", 2, 2, "/a/b/c/" },
-        { "/a/b/c/d/e", 1, 1, "/a/" },
-        { "/a/b", 1, 1, "/a/b" },
-        { "/aa/bb", 5, 1, "/aa/bb" },
-        { "/aa/bb/cc", 2, 3, "/aa/bb/cc" },
-        { "//srv/share/dir/x", 2, 1, "//srv/share/" },
-        { "//srv", 1, 1, "//srv" },
-        { "C:/proj/x/y", 1, 2, "C:/proj/x/" },
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(
-            getDirectoryUntilNo(QString::fromUtf8(c.path), c.no, c.count).toStdString(), c.result)
-            << c.path << " " << c.no << " " << c.count;
+    for (const auto& row : rows) {
+        const QString path = QString::fromUtf8(row.path);
+        EXPECT_EQ(getDirectoryNo(path, row.no, row.count).toStdString(), row.levels)
+            << row.path << ' ' << row.no << ' ' << row.count;
+        EXPECT_EQ(getDirectoryUntilNo(path, row.no, row.count).toStdString(), row.until)
+            << row.path << ' ' << row.no << ' ' << row.count;
     }
 }

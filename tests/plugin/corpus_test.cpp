@@ -1,9 +1,8 @@
 // Real scenes from public projects, described by a manifest beside them. The
 // folder lives outside the project; without it these tests are skipped.
 #include "plugin/parserState.h"
-#include "plugin/scanner.h"
 #include "support/scanState.h"
-#include "support/sceneLoad.h"
+#include "tools/host/hostRecords.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,165 +11,113 @@
 
 #include <gtest/gtest.h>
 
+extern "C" int pLoadSceneFile(zkP::_dataPARS_LoadSceneFile* data);
+
 namespace {
 
-struct CorpusScene
+/// The manifest's rows by column name; none without the corpus.
+QList<QMap<QString, QString>> corpusScenes()
 {
-    QString path;
-    QString version;
-    QString takes;
-    QString cameras;
-    QString notes;
-};
-
-QList<CorpusScene> corpusScenes()
-{
-    QList<CorpusScene> scenes;
+    QList<QMap<QString, QString>> scenes;
     const QDir corpus(QStringLiteral(ZK_CORPUS_DIR));
     QFile manifest(corpus.filePath(QStringLiteral("MANIFEST.tsv")));
     if (!manifest.open(QIODevice::ReadOnly | QIODevice::Text))
         return scenes;
     QTextStream in(&manifest);
     const QStringList header = in.readLine().split(u'\t');
-    const auto column = [&](const char* name) { return header.indexOf(QLatin1String(name)); };
-    const qsizetype pathCol = column("relative_path");
-    const qsizetype versionCol = column("houdini_version");
-    const qsizetype takesCol = column("takes");
-    const qsizetype camerasCol = column("cameras");
-    const qsizetype notesCol = column("notes");
-    if (pathCol < 0 || versionCol < 0 || takesCol < 0 || camerasCol < 0 || notesCol < 0)
-        return scenes;
     while (!in.atEnd()) {
-        const QStringList f = in.readLine().split(u'\t');
-        if (f.size() < header.size())
-            continue;
-        scenes.append({ corpus.filePath(f[pathCol]), f[versionCol], f[takesCol], f[camerasCol],
-            f[notesCol] });
+        const QStringList fields = in.readLine().split(u'\t');
+        QMap<QString, QString> row;
+        for (qsizetype i = 0; i < header.size() && i < fields.size(); ++i)
+            row[header[i]] = fields[i];
+        row[QStringLiteral("path")] = corpus.filePath(row.value(QStringLiteral("relative_path")));
+        scenes.append(row);
     }
     return scenes;
 }
 
-ScanResult scanFile(
-    const QString& path, zkJ::_JobBasicsArray& jobs, ScanMode mode = ScanMode::Marked)
-{
-    resetParserState();
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    QTextStream stream(&file);
-    LineSource in(stream);
-    const _zkString<500> scene(path);
-    zkP::_dataPARS_LoadSceneFile data { const_cast<_zkString<500>*>(&scene), &jobs, nullptr };
-    LoadContext ctx;
-    ctx.data = &data;
-    ctx.scenePath = path;
-    return scanScene(ctx, in, SectionReaders(), mode);
-}
-
 // Every real scene loads to jobs a farm can run: each names its application
-// and its output, and a job that waits, waits for the export of its own
-// driver.
+// and its output, a job that waits, waits for the export of its own driver,
+// and Houdini's own jobs carry the version the manifest records. The rules
+// behind the scan (version, frame range, takes, cameras) are pinned by the
+// scene cases.
 TEST(Corpus, EveryRealSceneGivesSaneJobs)
 {
-    const QList<CorpusScene> scenes = corpusScenes();
+    const auto scenes = corpusScenes();
     if (scenes.isEmpty())
         GTEST_SKIP() << "no scene corpus beside the project";
-    for (const CorpusScene& scene : scenes) {
-        SCOPED_TRACE(qPrintable(scene.path));
-        zkJ::_JobBasicsArray jobs;
-        const int result = zkTest::loadSceneFile(scene.path, jobs);
+    for (const auto& scene : scenes) {
+        SCOPED_TRACE(qPrintable(scene.value(QStringLiteral("path"))));
+        zkHost::SceneLoad host(scene.value(QStringLiteral("path")));
+        const int result = pLoadSceneFile(&host.record);
         EXPECT_TRUE(result == 1 || result == 25) << result;
+        const zkJ::_JobBasicsArray& jobs = *host.jobs.array;
+        const QString version = scene.value(QStringLiteral("houdini_version"));
         for (int i = 0; i < jobs.count; ++i) {
-            const zkJ::_JobBasics_largePath& job = *jobs.at(i);
+            const zkJ::_JobBasics_largePath& job = jobs.records[i];
             EXPECT_FALSE(job.renderApp.appName.isEmpty()) << "job " << i;
             EXPECT_FALSE(job.imageFileName.isEmpty()) << "job " << i;
+            if (version.contains(u'.') && job.renderApp.appName.view() == u"Houdini") {
+                EXPECT_EQ(job.renderApp.versionMajor, version.section(u'.', 0, 0).toInt());
+            }
             if (job.waitForPreIDCount == 0)
                 continue;
-            const zkJ::_JobBasics_largePath* waitedFor = nullptr;
-            for (int e = 0; e < jobs.count && !waitedFor; ++e) {
-                if (jobs.at(e)->preID == job.waitForPreIDs[0])
-                    waitedFor = jobs.at(e);
-            }
-            ASSERT_NE(waitedFor, nullptr) << "job " << i << " waits for a job that is not there";
-            EXPECT_TRUE(waitedFor->layer.isEqual(job.layer)) << "job " << i;
-            EXPECT_TRUE(waitedFor->renderApp.rendererName.view().startsWith(u"create"))
+            int waitedFor = 0;
+            while (waitedFor < jobs.count && jobs.records[waitedFor].preID != job.waitForPreIDs[0])
+                ++waitedFor;
+            ASSERT_LT(waitedFor, jobs.count) << "job " << i << " waits for a job that is not there";
+            EXPECT_TRUE(jobs.records[waitedFor].layer.isEqual(job.layer)) << "job " << i;
+            EXPECT_TRUE(jobs.records[waitedFor].renderApp.rendererName.view().startsWith(u"create"))
                 << "job " << i;
         }
+        // The scene's frame range and camera sizes as the manifest records them.
+        static const QRegularExpression frange(QStringLiteral("frange (-?\\d+) (-?\\d+)"));
+        const QRegularExpressionMatch range = frange.match(scene.value(QStringLiteral("notes")));
+        if (range.hasMatch()) {
+            EXPECT_EQ(GLseqStart, range.captured(1).toInt());
+            EXPECT_EQ(GLseqEnd, range.captured(2).toInt());
+        }
+        static const QRegularExpression camera(QStringLiteral("^obj/(\\S+) (\\d+)x(\\d+)$"));
+        for (const QString& entry : scene.value(QStringLiteral("cameras")).split(u',')) {
+            const QRegularExpressionMatch cam = camera.match(entry.trimmed());
+            const QString path = QStringLiteral("/obj/") + cam.captured(1);
+            // Only sections whose header holds "/cam" or "stereocam" reach the camera reader.
+            if (!path.contains(QStringLiteral("/cam"))
+                && !path.contains(QStringLiteral("stereocam")))
+                continue;
+            const _zkString8_allSize<150> name(path);
+            for (const _camNode& known : camList.list) {
+                if (cam.hasMatch() && known.name.isEqual(name)) {
+                    EXPECT_EQ(known.resX, cam.captured(2).toInt()) << qPrintable(entry);
+                    EXPECT_EQ(known.resY, cam.captured(3).toInt()) << qPrintable(entry);
+                }
+            }
+        }
     }
 }
 
-// Real scenes hold binary members, odd blanks and every archive form: the
-// scan that decodes only lines with a rule's bytes must agree with the one
-// that decodes every line.
+// Real scenes hold binary members, odd blanks and every archive form: the scan
+// that decodes only the lines holding a rule's bytes must leave the same state
+// and jobs as the one that decodes every line.
 TEST(Corpus, MarkedScanAgreesWithEveryLineScan)
 {
-    const QList<CorpusScene> scenes = corpusScenes();
-    if (scenes.isEmpty())
-        GTEST_SKIP() << "no scene corpus beside the project";
-    for (const CorpusScene& scene : scenes) {
-        zkJ::_JobBasicsArray markedJobs;
-        zkJ::_JobBasicsArray everyLineJobs;
-        const QString marked = zkTest::describeScan(scanFile(scene.path, markedJobs), markedJobs);
-        const QString everyLine = zkTest::describeScan(
-            scanFile(scene.path, everyLineJobs, ScanMode::EveryLine), everyLineJobs);
-        EXPECT_EQ(marked, everyLine) << qPrintable(scene.path);
-    }
-}
-
-// The manifest records what each scene holds; the scan must find the same
-// saved version, frame range, takes and camera resolutions.
-TEST(Corpus, ScanFindsWhatTheManifestRecords)
-{
-    const QList<CorpusScene> scenes = corpusScenes();
-    if (scenes.isEmpty())
-        GTEST_SKIP() << "no scene corpus beside the project";
-    const QRegularExpression frange(QStringLiteral("frange (-?\\d+) (-?\\d+)"));
-    const QRegularExpression plainTakes(QStringLiteral("^[\\w-]+(, [\\w-]+)*$"));
-    const QRegularExpression camera(QStringLiteral("^obj/(\\S+) (\\d+)x(\\d+)$"));
-    const QRegularExpression excluded(QStringLiteral("xform|camOrigin|file|constraints"),
-        QRegularExpression::CaseInsensitiveOption);
-
-    for (const CorpusScene& scene : scenes) {
-        zkJ::_JobBasicsArray jobs;
-        const ScanResult scan = scanFile(scene.path, jobs);
-        const QByteArray nameBytes = scene.path.toLocal8Bit();
-        const char* name = nameBytes.constData();
-
-        if (scene.version.contains(u'.')) {
-            EXPECT_EQ(scan.houdiniMajor, scene.version.section(u'.', 0, 0).toInt()) << name;
+    for (const auto& scene : corpusScenes()) {
+        const QString path = scene.value(QStringLiteral("path"));
+        QString described[2];
+        for (const ScanMode mode : { ScanMode::Marked, ScanMode::EveryLine }) {
+            zkHost::SceneLoad host(path);
+            QFile file(path);
+            ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+            QTextStream stream(&file);
+            LineSource in(stream);
+            LoadContext ctx;
+            ctx.data = &host.record;
+            ctx.scenePath = path;
+            resetParserState();
+            described[mode == ScanMode::EveryLine] = zkTest::describeScan(
+                scanScene(ctx, in, SectionReaders(), mode), *host.jobs.array);
         }
-
-        const QRegularExpressionMatch range = frange.match(scene.notes);
-        if (range.hasMatch()) {
-            EXPECT_EQ(GLseqStart, range.captured(1).toInt()) << name;
-            EXPECT_EQ(GLseqEnd, range.captured(2).toInt()) << name;
-        }
-
-        if (plainTakes.match(scene.takes).hasMatch()) {
-            EXPECT_EQ(scan.takes.join(QStringLiteral(", ")), scene.takes) << name;
-        }
-
-        for (const QString& entry : scene.cameras.split(QStringLiteral(", "))) {
-            const QRegularExpressionMatch cam = camera.match(entry);
-            if (!cam.hasMatch())
-                continue;
-            const QString path = QStringLiteral("/obj/") + cam.captured(1);
-            // Only headers holding "/cam" or "stereocam" reach the camera reader.
-            if ((!path.contains(QStringLiteral("/cam"))
-                    && !path.contains(QStringLiteral("stereocam")))
-                || excluded.match(path).hasMatch())
-                continue;
-            _zkString8_allSize<150> key(path);
-            const qsizetype known = camList.list.size();
-            const int index = camList.findCamIndex(key);
-            if (index >= known) {
-                ADD_FAILURE() << name << ": no camera " << qPrintable(path);
-                continue;
-            }
-            EXPECT_EQ(camList.list[index].resX, cam.captured(2).toInt())
-                << name << " " << qPrintable(path);
-            EXPECT_EQ(camList.list[index].resY, cam.captured(3).toInt())
-                << name << " " << qPrintable(path);
-        }
+        EXPECT_EQ(described[0], described[1]) << qPrintable(path);
     }
 }
 

@@ -1,3 +1,6 @@
+// The switches reach the jobs in the scene cases (scanner_version_build,
+// completion_compressed_ifd); what the runner cannot vary is here: element 0,
+// null elements, a missing block or vector, a negative count.
 #include "plugin/loadContext.h"
 
 #include <gtest/gtest.h>
@@ -5,79 +8,41 @@
 #include <memory>
 #include <vector>
 
-namespace {
-
-/// A settings block as the host lays it out, with the given argument vector.
-struct Settings
+TEST(SubmitterArguments, WholeWordsAnyCaseFromElementOne)
 {
-    explicit Settings(std::vector<const char*> argv)
-        : vector(std::move(argv))
+    const struct
     {
-        block->argc = int(vector.size());
-        block->argv = const_cast<char**>(vector.data());
-    }
-    std::vector<const char*> vector;
-    std::unique_ptr<zkP::_submitterSettings> block = std::make_unique<zkP::_submitterSettings>();
-};
-
-struct SwitchCase
-{
-    const char* name;
-    std::vector<const char*> argv;
-    bool buildVersion;
-    bool compressed;
-};
-
-TEST(SubmitterArguments, SwitchesAreWholeWordsInAnyLetterCase)
-{
-    const SwitchCase cases[] = {
-        { "none", { "submitter" }, false, false },
-        { "exact", { "submitter", "-houdiniBuildVersion", "-houdiniCompressedIFD" }, true, true },
-        { "upper", { "submitter", "-HOUDINIBUILDVERSION" }, true, false },
-        { "lower", { "submitter", "-houdinicompressedifd" }, false, true },
-        { "element zero is the program", { "-houdiniBuildVersion" }, false, false },
-        { "prefix only", { "submitter", "-houdiniBuild" }, false, false },
-        { "longer word", { "submitter", "-houdiniBuildVersion2" }, false, false },
-        { "null element", { "submitter", nullptr, "-houdiniCompressedIFD" }, false, true },
+        std::vector<const char*> argv; // empty: no vector
+        int argc;
+        const char* arguments; // "|" between them
+        bool buildVersion, compressed;
+    } rows[] = {
+        { { "submitter", "-HOUDINIBUILDVERSION", "-houdinicompressedifd" }, 3,
+            "-HOUDINIBUILDVERSION|-houdinicompressedifd", true, true },
+        { { "-houdiniBuildVersion" }, 1, "", false, false },
+        { { "submitter", "-houdiniBuild", "-houdiniBuildVersion2" }, 3,
+            "-houdiniBuild|-houdiniBuildVersion2", false, false },
+        { { "submitter", nullptr, "-houdiniCompressedIFD", "" }, 4, "|-houdiniCompressedIFD|",
+            false, true },
+        { {}, 2, "", false, false },
+        { { "submitter", "-houdiniBuildVersion" }, -5, "", false, false },
     };
-    for (const SwitchCase& c : cases) {
-        Settings settings(c.argv);
+    for (const auto& row : rows) {
+        auto block = std::make_unique<zkP::_submitterSettings>();
+        block->argc = row.argc;
+        block->argv = row.argv.empty() ? nullptr : const_cast<char**>(row.argv.data());
         LoadContext ctx;
-        readSubmitterArguments(ctx, settings.block.get());
-        EXPECT_EQ(ctx.buildVersionSwitch, c.buildVersion) << c.name;
-        EXPECT_EQ(ctx.compressedExportSwitch, c.compressed) << c.name;
-        EXPECT_EQ(ctx.arguments.size(), qsizetype(c.argv.size()) - 1) << c.name;
+        ctx.buildVersionSwitch = true;
+        readSubmitterArguments(ctx, block.get());
+        const QString arguments = QString::fromUtf8(row.arguments);
+        EXPECT_EQ(ctx.arguments.join(u'|'), arguments) << row.argc << ' ' << row.arguments;
+        EXPECT_EQ(ctx.arguments.size(), arguments.isEmpty() ? 0 : arguments.count(u'|') + 1);
+        EXPECT_EQ(ctx.buildVersionSwitch, row.buildVersion) << row.arguments;
+        EXPECT_EQ(ctx.compressedExportSwitch, row.compressed) << row.arguments;
     }
-}
-
-TEST(SubmitterArguments, KeepsEveryArgumentAfterTheProgramInOrder)
-{
-    Settings settings({ "submitter", "-customRenVer_Arnold", "7.1.4.1", "" });
-    LoadContext ctx;
-    readSubmitterArguments(ctx, settings.block.get());
-    const QStringList expected { QStringLiteral("-customRenVer_Arnold"), QStringLiteral("7.1.4.1"),
-        QString() };
-    EXPECT_EQ(ctx.arguments, expected);
-}
-
-TEST(SubmitterArguments, MissingBlockOrVectorGivesNoArguments)
-{
     LoadContext ctx;
     ctx.buildVersionSwitch = true;
     readSubmitterArguments(ctx, nullptr);
     EXPECT_TRUE(ctx.arguments.isEmpty());
     EXPECT_FALSE(ctx.buildVersionSwitch);
-
-    Settings settings({ "submitter", "-houdiniBuildVersion" });
-    settings.block->argv = nullptr;
-    readSubmitterArguments(ctx, settings.block.get());
-    EXPECT_TRUE(ctx.arguments.isEmpty());
-    EXPECT_FALSE(ctx.buildVersionSwitch);
-
-    Settings negative({ "submitter" });
-    negative.block->argc = -5;
-    readSubmitterArguments(ctx, negative.block.get());
-    EXPECT_TRUE(ctx.arguments.isEmpty());
 }
-
-} // namespace

@@ -1,84 +1,45 @@
 #include "shared/zkShared.h"
 
 #include <QByteArray>
-#include <QtGlobal>
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <utility>
 
 namespace {
 
-TEST(ZkGetDirName, KeepsTheSeparatorAndClimbsFromADirectory)
+// Both forms climb a directory at a time in the job variables of
+// vars_render_job ("/r/shot/render/" to "/r/shot/" to "/r/"); here the ends.
+TEST(ZkPaths, DirectoryAndBaseNameAtTheirEnds)
 {
-    struct Row
-    {
-        const char* path;
-        char16_t sep;
-        const char* expected;
-    };
-    const Row rows[] = {
-        { "/r/img.exr", u'/', "/r/" },
-        { "/proj/shot/render/", u'/', "/proj/shot/" }, // one trailing separator is dropped
-        { "/proj/", u'/', "/" }, { "/", u'/', "" }, { "img.exr", u'/', "" }, { "", u'/', "" },
-        { "C:\\r\\img.exr", u'\\', "C:\\r\\" },
-        { "C:\\r\\img.exr", u'/', "" }, // only the given separator counts
-    };
-    for (const Row& r : rows) {
-        EXPECT_EQ(zkGetDirName(QLatin1String(r.path), r.sep), QLatin1String(r.expected)) << r.path;
-    }
-
-    // The fixed-capacity form climbs the same way.
-    const _zkString<500> p("/proj/shot/render/");
-    EXPECT_EQ(zkGetDirName(p).toQString(), QStringLiteral("/proj/shot/"));
-    EXPECT_EQ(zkGetDirName(zkGetDirName(p)).toQString(), QStringLiteral("/proj/"));
+    const char* dirs[][2] = { { "/proj/", "/" }, { "/", "" }, { "img.exr", "" }, { "", "" },
+        { "C:\\r\\img.exr", "" } }; // only the given separator counts
+    for (const auto& d : dirs)
+        EXPECT_EQ(zkGetDirName(QLatin1String(d[0]), u'/'), QLatin1String(d[1])) << d[0];
+    EXPECT_EQ(zkGetDirName(QStringLiteral("C:\\r\\img.exr"), u'\\'), QStringLiteral("C:\\r\\"));
     EXPECT_TRUE(zkGetDirName(_zkString<500>("file")).isEmpty());
+
+    const char* bases[][2] = { { "/r/img.0001.exr", "img.0001" }, { "/r/noext", "noext" },
+        { "/r/.hidden", ".hidden" }, { "img.exr", "img" }, { "/r/dir/", "" }, { "", "" } };
+    for (const auto& b : bases)
+        EXPECT_EQ(zkGetFileNameBase(QLatin1String(b[0]), u'/'), QLatin1String(b[1])) << b[0];
 }
 
-TEST(ZkGetFileNameBase, LastComponentWithoutExtension)
-{
-    struct Row
-    {
-        const char* path;
-        const char* expected;
-    };
-    const Row rows[] = {
-        { "/r/img.exr", "img" },
-        { "/r/img.0001.exr", "img.0001" },
-        { "/r/noext", "noext" },
-        { "/r/.hidden", ".hidden" },
-        { "img.exr", "img" },
-        { "/r/dir/", "" },
-        { "", "" },
-    };
-    for (const Row& r : rows)
-        EXPECT_EQ(zkGetFileNameBase(QLatin1String(r.path), u'/'), QLatin1String(r.expected))
-            << r.path;
-
-    const QString p = QStringLiteral("/r/img.exr");
-    EXPECT_EQ(zkGetDirName(p, u'/') + zkGetFileNameBase(p, u'/'), QStringLiteral("/r/img"));
-}
-
-TEST(ZkChecksums, Crc64IsXZ)
+TEST(ZkChecksums, Crc64IsXZAndTheDigestKeepsSixteenBytesOfSha1)
 {
     EXPECT_EQ(zkCRCCalc64("123456789", 9), 0x995DC9BBDF1939FAULL);
     EXPECT_EQ(zkCRCCalc64("", 0), 0ULL);
     EXPECT_NE(zkCRCCalc64("123456789", 8), zkCRCCalc64("123456789", 9));
-}
 
-TEST(ZkChecksums, Sha1DigestKeepsFirstSixteenBytes)
-{
+    // SHA-1("abc") = a9993e36 4706816a ba3e2571 7850c26c 9cd0d89d; SHA-1("") = da39a3ee ...
     const unsigned char abc[] = { 'a', 'b', 'c' };
-    const _zkString8_allSize<16> d = zkCRC_SHA1_16B(abc, 3);
-    ASSERT_EQ(d.length, 16);
-    // SHA-1("abc") = a9993e36 4706816a ba3e2571 7850c26c 9cd0d89d
-    EXPECT_EQ(
-        QByteArray(d.data, 16).toHex(), QByteArrayLiteral("a9993e364706816aba3e25717850c26c"));
-    EXPECT_EQ(d.data[16], 0);
-
-    const _zkString8_allSize<16> empty = zkCRC_SHA1_16B(nullptr, 0);
-    EXPECT_EQ(
-        QByteArray(empty.data, 16).toHex(), QByteArrayLiteral("da39a3ee5e6b4b0d3255bfef95601890"));
+    for (const auto& [digest, hex] :
+        { std::pair { zkCRC_SHA1_16B(abc, 3), "a9993e364706816aba3e25717850c26c" },
+            std::pair { zkCRC_SHA1_16B(nullptr, 0), "da39a3ee5e6b4b0d3255bfef95601890" } }) {
+        ASSERT_EQ(digest.length, 16);
+        EXPECT_EQ(QByteArray(digest.data, 16).toHex(), QByteArray(hex));
+        EXPECT_EQ(digest.data[16], 0);
+    }
 }
 
 TEST(ZkTexts, IllegalFileNameCharactersRemoved)
@@ -87,30 +48,6 @@ TEST(ZkTexts, IllegalFileNameCharactersRemoved)
         QStringLiteral("abcdefghijkl"));
     EXPECT_EQ(zkRemoveIllegalCharFromHtmlFile(QString::fromUtf8("Layer 1 \xC3\xA9-_.")),
         QString::fromUtf8("Layer 1 \xC3\xA9-_."));
-}
-
-TEST(ZkEnvironment, ListKeepsOrderAndSplitsAtFirstEquals)
-{
-    // setenv appends new names at the end of environ, in call order.
-    ASSERT_EQ(setenv("ZK_ENV_TEST_FIRST", "a=b=c", 1), 0);
-    ASSERT_EQ(setenv("ZK_ENV_TEST_SECOND", "", 1), 0);
-    const _varValList list = zkGetEnvironmentVariableList(false);
-    int first = -1;
-    int second = -1;
-    for (int i = 0; i < list.size(); ++i) {
-        EXPECT_FALSE(list.at(i).name.contains(u'=')) << qPrintable(list.at(i).name);
-        if (list.at(i).name == QLatin1String("ZK_ENV_TEST_FIRST"))
-            first = i;
-        if (list.at(i).name == QLatin1String("ZK_ENV_TEST_SECOND"))
-            second = i;
-    }
-    ASSERT_GE(first, 0);
-    ASSERT_GE(second, 0);
-    EXPECT_LT(first, second);
-    EXPECT_EQ(list.at(first).value, QStringLiteral("a=b=c"));
-    EXPECT_TRUE(list.at(second).value.isEmpty());
-    unsetenv("ZK_ENV_TEST_FIRST");
-    unsetenv("ZK_ENV_TEST_SECOND");
 }
 
 } // namespace

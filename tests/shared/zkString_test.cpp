@@ -4,12 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace {
 
 template <int N>
-QString q(const _zkString<N>& s)
+std::string s(const _zkString<N>& text)
 {
-    return s.toQString();
+    return text.toQString().toStdString();
 }
 
 template <int N>
@@ -18,223 +20,147 @@ _zkString<N> z(const char* text)
     return _zkString<N>(text);
 }
 
+/// Every edit must leave the terminator right behind the text.
+template <int N>
+std::string terminated(const _zkString<N>& text)
+{
+    EXPECT_EQ(text.data[text.length], 0) << s(text);
+    return s(text);
+}
+
 // ---- capacity and terminator ----------------------------------------------
 
-TEST(ZkString, AssignmentCutsAtCapacityAndTerminates)
+TEST(ZkString, AssignAndAppendCutAtCapacity)
 {
-    const QString long1200 = QString(1200, u'x');
-    _zkString<1000> s;
-    s.set(long1200);
-    EXPECT_EQ(s.length, 1000);
-    EXPECT_EQ(s.data[999], u'x');
-    EXPECT_EQ(s.data[1000], 0);
+    _zkString<1000> big;
+    big.set(QString(1200, u'x'));
+    EXPECT_EQ(big.length, 1000);
+    EXPECT_EQ(terminated(big).back(), 'x');
+    EXPECT_EQ(terminated(z<10>("0123456789abc")), "0123456789");
+    EXPECT_EQ(terminated(_zkString<500>('/')), "/");
 
-    _zkString<10> fromChars("0123456789abc");
-    EXPECT_EQ(q(fromChars), QStringLiteral("0123456789"));
-    EXPECT_EQ(fromChars.data[10], 0);
+    _zkString<10> appended("abcdefgh");
+    appended.append(u"123");
+    EXPECT_EQ(terminated(appended), "abcdefgh12");
 
-    _zkString<500> one('/');
-    EXPECT_EQ(q(one), QStringLiteral("/"));
-    EXPECT_EQ(one.data[1], 0);
-}
-
-TEST(ZkString, AppendKeepsWhatFits)
-{
-    _zkString<10> s("abcdefgh");
-    s.append(u"123");
-    EXPECT_EQ(q(s), QStringLiteral("abcdefgh12"));
-    EXPECT_EQ(s.data[10], 0);
-}
-
-TEST(ZkString, ClearLeavesStaleUnitsThatNeverCount)
-{
+    // A cleared string keeps stale units that never count.
     _zkString<25> a("a much longer text");
     _zkString<25> b("short");
     a.clear();
     b.clear();
-    EXPECT_EQ(a.length, 0);
-    EXPECT_EQ(a.data[0], 0);
-    EXPECT_TRUE(a.isEqual(b));
-    EXPECT_TRUE(a.isEmpty());
-
+    EXPECT_TRUE(a.isEqual(b) && a.isEmpty());
     a.set(QStringLiteral("xy"));
-    EXPECT_EQ(q(a), QStringLiteral("xy"));
-    EXPECT_EQ(a.data[2], 0);
+    EXPECT_EQ(terminated(a), "xy");
 }
 
-// ---- case rules ---------------------------------------------------------------
+// ---- case rules and positions ---------------------------------------------
 
-TEST(ZkString, SearchesIgnoreCase)
+TEST(ZkString, SearchesIgnoreCaseEqualityAndLeftAreExact)
 {
-    const _zkString<250> s("Render/Beauty.EXR");
-    EXPECT_EQ(s.indexOf(z<250>("beauty"), 0), 7);
-
-    EXPECT_TRUE(s.startsWith(z<250>("RENDER")));
-
-    EXPECT_TRUE(s.endsWith(".exr"));
-    const _zkString<250> lower("beauty.exr");
-    EXPECT_TRUE(lower.endsWith(QStringLiteral(".EXR")));
-    EXPECT_FALSE(lower.endsWith(QStringLiteral(".tif")));
-}
-
-TEST(ZkString, IsEqualAndLeftAreExact)
-{
-    EXPECT_FALSE(z<25>("Cam").isEqual(z<25>("cam")));
-    EXPECT_TRUE(z<25>("cam").isEqual(z<25>("cam")));
-    EXPECT_FALSE(z<25>("cam").isEqual(z<25>("cam1")));
-
-    EXPECT_EQ(q(z<15>("5.370").left(u'.', false)), QStringLiteral("5"));
-    EXPECT_EQ(q(z<15>("537").left(u'.', false)), QStringLiteral("537"));
-    EXPECT_EQ(q(z<15>(".5").left(u'.', false)), QString());
-    EXPECT_EQ(q(z<15>("aXb").left(u'x', false)), QStringLiteral("aXb"));
-}
-
-// ---- searching --------------------------------------------------------------
-
-TEST(ZkString, SearchPositions)
-{
-    const _zkString<250> path("/a/b/c");
-    EXPECT_EQ(path.lastIndexOf(u'/', -1), 4);
-    EXPECT_EQ(path.lastIndexOf(u'/', 3), 2);
-    EXPECT_EQ(path.lastIndexOf(u'/', 999), 4);
-    EXPECT_EQ(path.lastIndexOf(u'x', -1), -1);
-    EXPECT_EQ(path.indexOf(u'/', 1), 2);
-    EXPECT_EQ(path.indexOf(u'/', -5), 0);
-    EXPECT_EQ(path.indexOf(u'/', 100), -1);
-
-    EXPECT_EQ(z<150>("abcabc").indexOf(z<150>("c"), 3), 5);
-    EXPECT_EQ(z<150>("abc").indexOf(z<150>("abcd"), 0), -1);
-    EXPECT_TRUE(z<500>("/x").startsWith(u'/'));
-    EXPECT_FALSE(_zkString<500>().startsWith(u'/'));
-    EXPECT_TRUE(z<500>("x/").endsWith(u'/'));
-    EXPECT_FALSE(_zkString<500>().endsWith(u'/'));
+    const _zkString<250> text("Render/Beauty.EXR");
+    EXPECT_EQ(text.indexOf(z<250>("beauty"), 0), 7);
+    EXPECT_TRUE(text.startsWith(z<250>("RENDER")));
+    EXPECT_TRUE(text.endsWith(".exr"));
+    EXPECT_TRUE(z<250>("beauty.exr").endsWith(QStringLiteral(".EXR")));
+    EXPECT_FALSE(z<250>("beauty.exr").endsWith(QStringLiteral(".tif")));
     EXPECT_FALSE(z<250>("exr").endsWith(".exr"));
+
+    EXPECT_FALSE(z<25>("Cam").isEqual(z<25>("cam")));
+    EXPECT_FALSE(z<25>("cam").isEqual(z<25>("cam1")));
+    const char* lefts[][2] = { { "5.370", "5" }, { "537", "537" }, { ".5", "" } };
+    for (const auto& l : lefts)
+        EXPECT_EQ(s(z<15>(l[0]).left(u'.', false)), l[1]);
+    EXPECT_EQ(s(z<15>("aXb").left(u'x', false)), "aXb");
+
+    const _zkString<250> path("/a/b/c");
+    const int positions[] = { path.lastIndexOf(u'/', -1), path.lastIndexOf(u'/', 3),
+        path.lastIndexOf(u'/', 999), path.lastIndexOf(u'x', -1), path.indexOf(u'/', 1),
+        path.indexOf(u'/', -5), path.indexOf(u'/', 100), z<150>("abcabc").indexOf(z<150>("c"), 3),
+        z<150>("abc").indexOf(z<150>("abcd"), 0) };
+    const int expected[] = { 4, 2, 4, -1, 2, 0, -1, 5, -1 };
+    for (int i = 0; i < 9; ++i)
+        EXPECT_EQ(positions[i], expected[i]) << i;
+    EXPECT_TRUE(z<500>("/x").startsWith(u'/') && z<500>("x/").endsWith(u'/'));
+    EXPECT_FALSE(_zkString<500>().startsWith(u'/') || _zkString<500>().endsWith(u'/'));
 }
 
 // ---- editing ------------------------------------------------------------------
 
 TEST(ZkString, ReplaceScansOnAndCutsOnceAtTheEnd)
 {
-    struct Row
-    {
-        const char* text;
-        const char* from;
-        const char* to;
-        const char* expected;
-    };
-    const Row rows[] = {
+    const char* rows[][4] = {
         { "aXa", "A", "aa", "aaXaa" }, // ignores case, continues behind each inserted text
         { "aaaaaaaaaa", "a", "bb", "bbbbbbbbbb" }, // 20 units, cut to 10
         { "abcabc", "abc", "", "" },
         { "xyz", "", "q", "xyz" }, // an empty pattern changes nothing
         { "ab", "abc", "q", "ab" },
     };
-    for (const Row& r : rows) {
-        _zkString<10> s(r.text);
-        s.replace(_zkString<10>(r.from), _zkString<10>(r.to));
-        EXPECT_EQ(q(s), QLatin1String(r.expected)) << r.text << " " << r.from;
-        EXPECT_EQ(s.data[s.length], 0);
+    for (const auto& r : rows) {
+        _zkString<10> text(r[0]);
+        text.replace(_zkString<10>(r[1]), _zkString<10>(r[2]));
+        EXPECT_EQ(terminated(text), r[3]) << r[0] << " " << r[1];
     }
-
     _zkString<10> self("abc");
     self.replace(self, _zkString<10>("xy"));
-    EXPECT_EQ(q(self), QStringLiteral("xy"));
+    EXPECT_EQ(s(self), "xy");
 }
 
-TEST(ZkString, InsertBounds)
+TEST(ZkString, InsertRemoveAndSetLengthStayInBounds)
 {
-    _zkString<10> s("abcd");
-    s.insert(2, _zkString<10>("XY"));
-    EXPECT_EQ(q(s), QStringLiteral("abXYcd"));
-    s.insert(6, _zkString<10>("!"));
-    EXPECT_EQ(q(s), QStringLiteral("abXYcd!"));
-    s.insert(8, _zkString<10>("?")); // beyond the end
-    s.insert(-1, _zkString<10>("?"));
-    EXPECT_EQ(q(s), QStringLiteral("abXYcd!"));
-    s.insert(0, _zkString<10>("123456")); // cut at capacity, tail lost
-    EXPECT_EQ(q(s), QStringLiteral("123456abXY"));
-    EXPECT_EQ(s.data[10], 0);
-
+    _zkString<10> text("abcd");
+    text.insert(2, _zkString<10>("XY"));
+    text.insert(6, _zkString<10>("!"));
+    text.insert(8, _zkString<10>("?")); // beyond the end
+    text.insert(-1, _zkString<10>("?"));
+    EXPECT_EQ(s(text), "abXYcd!");
+    text.insert(0, _zkString<10>("123456")); // cut at capacity, tail lost
+    EXPECT_EQ(terminated(text), "123456abXY");
     _zkString<10> twice("ab");
     twice.insert(1, twice);
-    EXPECT_EQ(q(twice), QStringLiteral("aabb"));
-}
+    EXPECT_EQ(s(twice), "aabb");
 
-TEST(ZkString, RemoveBounds)
-{
-    _zkString<10> s("abcdef");
-    s.remove(1, 2);
-    EXPECT_EQ(q(s), QStringLiteral("adef"));
-    s.remove(2, 100);
-    EXPECT_EQ(q(s), QStringLiteral("ad"));
-    s.remove(2, 1); // at the length: nothing
-    s.remove(-1, 1);
-    s.remove(0, 0);
-    s.remove(0, -3);
-    EXPECT_EQ(q(s), QStringLiteral("ad"));
-    EXPECT_EQ(s.data[2], 0);
-}
+    _zkString<10> cut("abcdef");
+    cut.remove(1, 2);
+    cut.remove(2, 100);
+    for (const int pos : { 2, -1, 0 })
+        cut.remove(pos, pos == 0 ? -3 : 1); // at the length, before it, negative count
+    cut.remove(0, 0);
+    EXPECT_EQ(terminated(cut), "ad");
 
-TEST(ZkString, SetLengthBounds)
-{
-    _zkString<250> s("abcdef");
-    s.setLength(3);
-    EXPECT_EQ(q(s), QStringLiteral("abc"));
-    EXPECT_EQ(s.data[3], 0);
-    s.setLength(5); // above the length: nothing
-    s.setLength(-1);
-    EXPECT_EQ(q(s), QStringLiteral("abc"));
-    s.setLength(0);
-    EXPECT_TRUE(s.isEmpty());
+    _zkString<250> shortened("abcdef");
+    shortened.setLength(3);
+    shortened.setLength(5); // above the length: nothing
+    shortened.setLength(-1);
+    EXPECT_EQ(terminated(shortened), "abc");
+    shortened.setLength(0);
+    EXPECT_TRUE(shortened.isEmpty());
 }
 
 // ---- 8-bit strings ---------------------------------------------------------
-
-TEST(ZkString8, Latin1WithQuestionMarkAboveFF)
-{
-    _zkString8_allSize<10> s;
-    s.set(QString::fromUtf8("a\xC3\xA9\xE2\x82\xAC"
-                            "b")); // a, e-acute, euro sign, b
-    ASSERT_EQ(s.length, 4);
-    EXPECT_EQ(static_cast<unsigned char>(s.data[1]), 0xE9);
-    EXPECT_EQ(s.data[2], '?');
-    EXPECT_EQ(s.toQString(), QString::fromUtf8("a\xC3\xA9?b"));
-
-    s.set(QStringLiteral("0123456789ABC"));
-    EXPECT_EQ(s.length, 10);
-    EXPECT_EQ(s.data[10], 0);
-    _zkString8_allSize<150> fromChars(std::string(200, 'z').c_str());
-    EXPECT_EQ(fromChars.length, 150);
-}
+// Latin-1 conversion with "?" and the 150-byte cut show in reader_cameras;
+// removing dots, trailing zeros, exact equality and upper case in the job
+// variables and custom data tests.
 
 TEST(ZkString8, Members)
 {
-    _zkString8_allSize<15> v("5.3.70");
-    v.remove('.');
-    EXPECT_EQ(v.toQString(), QStringLiteral("5370"));
-    EXPECT_TRUE(v.endsWith('0'));
-    v.setLength(2);
-    EXPECT_EQ(v.toQString(), QStringLiteral("53"));
-    v.setLength(9);
-    EXPECT_EQ(v.length, 2);
-
-    _zkString8_allSize<5000> up;
-    up.set(QString::fromUtf8("abc-xyz \xC3\xA9"));
-    up.makeUpper();
-    EXPECT_EQ(up.toQString(), QString::fromUtf8("ABC-XYZ \xC3\xA9")); // ASCII letters only
+    _zkString8_allSize<10> cut10;
+    cut10.set(QStringLiteral("0123456789ABC"));
+    EXPECT_EQ(cut10.length, 10);
+    EXPECT_EQ(cut10.data[10], 0);
 
     const _zkString8_allSize<150> frames("1-10,20");
-    EXPECT_TRUE(frames.startsWith("1-1"));
-    EXPECT_FALSE(frames.startsWith("1-10,20,30"));
+    EXPECT_TRUE(frames.startsWith("1-1") && !frames.startsWith("1-10,20,30"));
     EXPECT_EQ(frames.indexOf(_zkString8_allSize<150>(",2"), 0), 4);
     EXPECT_TRUE(_zkString8_allSize<150>("Ab").startsWith("aB"));
-    EXPECT_FALSE(_zkString8_allSize<150>("Ab").isEqual(_zkString8_allSize<150>("ab")));
 
     _zkString8_allSize<150> cut("abcdef");
     cut.remove(1, 3);
-    EXPECT_EQ(cut.toQString(), QStringLiteral("aef"));
     cut.remove(3, 1);
     EXPECT_EQ(cut.toQString(), QStringLiteral("aef"));
+    _zkString8_allSize<15> v("5.3.70");
+    v.setLength(2);
+    v.setLength(9);
+    EXPECT_EQ(v.toQString(), QStringLiteral("5."));
 
     _zkString8_allSize<16> a("longer stale");
     _zkString8_allSize<16> b("x");

@@ -20,7 +20,15 @@ namespace zkTest {
 class TextLines
 {
 public:
-    explicit TextLines(const QByteArray& text);
+    explicit TextLines(const QByteArray& text)
+        : bytes(text)
+        , device(&bytes)
+        , stream(&device)
+        , source(stream)
+    {
+        // Binary mode, as the plugin opens scene files.
+        device.open(QIODevice::ReadOnly);
+    }
     explicit TextLines(const char* text)
         : TextLines(QByteArray(text))
     { }
