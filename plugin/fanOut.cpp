@@ -204,3 +204,10 @@ LoadResult finishLoad(const LoadContext& ctx, const ScanResult& scan)
         return result;
     return fanOutJobs(ctx, scan);
 }
+
+LoadResult loadLines(const LoadContext& ctx, LineSource& in)
+{
+    resetParserState();
+    const ScanResult scan = scanScene(ctx, in);
+    return finishLoad(ctx, scan);
+}
