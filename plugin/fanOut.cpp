@@ -209,5 +209,11 @@ LoadResult loadLines(const LoadContext& ctx, LineSource& in)
 {
     resetParserState();
     const ScanResult scan = scanScene(ctx, in);
-    return finishLoad(ctx, scan);
+    const LoadResult result = finishLoad(ctx, scan);
+    // A refused getNewJob leaves count one past the records there are (result
+    // 7); the host reads count records, so it must not be told of that one.
+    zkJ::_JobBasicsArray& jobs = *ctx.data->jobs;
+    if (jobs.count > jobs.allocated)
+        jobs.count = jobs.allocated;
+    return result;
 }
