@@ -12,18 +12,18 @@ void _USD_RendersettingNode::clear()
 
 int _USD_RSList::findIndex(QString const& nodePath, bool const& create)
 {
-    return elementSection::findByNodePath(list, nodePath, create);
+    return elementSection::findByNodePath(list, byPath, nodePath, create);
 }
 
 int _USD_RSList::findIndexByROP(QString const& driverPath) const
 {
-    return elementSection::findByRenderNode(list, driverPath);
+    return elementSection::findByRenderNode(list, byDriver, driverPath);
 }
 
 int _USD_RSList::addFromROP(QString name, QString const& driverPath)
 {
     const int index = findIndex(elementSection::unwrapChsop(name), true);
-    list[index].renderNodes.append(driverPath);
+    elementSection::addRenderNode(list, byDriver, index, driverPath);
     return index;
 }
 
