@@ -4,6 +4,12 @@
 
 namespace {
 
+/// Redshift puts each picture value in front of the path read so far, and a
+/// section of a million such lines would copy the growing path a million
+/// times. A value that would take the path past this length is not taken;
+/// real paths stay far below the 1000 units of the field they end in.
+constexpr qsizetype MaxPrependedPathLength = 10000;
+
 /// Replaces the token of \p length characters at \p at by "%", keeping one
 /// width digit behind it, and closes the placeholder with "d".
 void toPlaceholder(QString& value, qsizetype at, qsizetype length)
@@ -79,6 +85,8 @@ bool replaceImageOutVars(
     if (value.isEmpty() || value.contains(QStringLiteral("testfile.exr"), Qt::CaseSensitive))
         return false;
 
+    if (prepend && imageOut.size() + value.size() > MaxPrependedPathLength)
+        return false;
     imageOut = prepend ? value + imageOut : value;
     return true;
 }
