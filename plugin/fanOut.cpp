@@ -69,13 +69,13 @@ public:
         : takes(names)
     {
         for (int i = 0; i < takes.size(); ++i)
-            byName.note(elementSection::caseFoldedKey(takes.at(i)), i);
+            byName.note(caseFoldedKey(takes.at(i)), i);
     }
 
     /// The entry equal to \p name ignoring case, or null.
     const QString* find(const QString& name) const
     {
-        const int i = byName.find(elementSection::caseFoldedKey(name), int(takes.size()),
+        const int i = byName.find(caseFoldedKey(name), int(takes.size()),
             [&](int k) { return takes.at(k).compare(name, Qt::CaseInsensitive) == 0; });
         return i < 0 ? nullptr : &takes.at(i);
     }

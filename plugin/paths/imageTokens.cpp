@@ -1,6 +1,7 @@
 #include "imageTokens.h"
 
 #include "plugin/parameterLine.h"
+#include "plugin/textSearch.h"
 
 namespace {
 
@@ -74,7 +75,7 @@ bool replaceImageOutVars(
 
     // A value that refers to its own parameter ("[ picture]") is only usable
     // as the first path found for the node.
-    if (value.contains(QStringLiteral("[ ") + name, Qt::CaseSensitive)) {
+    if (containsLinear(value, QStringLiteral("[ ") + name)) {
         if (!imageOut.isEmpty())
             return false;
         value = parameterLine::withoutSelfReference(value, name);

@@ -3,6 +3,8 @@
 // line, and the channel-expression prefix that drivers put around node paths.
 #pragma once
 
+#include "plugin/textSearch.h"
+
 #include <QChar>
 #include <QHash>
 #include <QLatin1String>
@@ -58,28 +60,6 @@ inline QString unwrapChsop(QString text)
     text.remove(0, 9);
     text.chop(1);
     return text;
-}
-
-/// A key under which texts that QString::compare(..., Qt::CaseInsensitive)
-/// finds equal are equal: each unit case-folded as that comparison folds it,
-/// a surrogate pair as the one character it encodes.
-inline QString caseFoldedKey(QStringView text)
-{
-    QString key;
-    key.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char16_t unit = text[i].unicode();
-        if (QChar::isHighSurrogate(unit) && i + 1 < text.size()
-            && QChar::isLowSurrogate(text[i + 1].unicode())) {
-            const char32_t c = QChar::surrogateToUcs4(unit, text[i + 1].unicode());
-            for (const char16_t folded : QChar::fromUcs4(QChar::toCaseFolded(c)))
-                key.append(QChar(folded));
-            ++i;
-            continue;
-        }
-        key.append(QChar(char16_t(QChar::toCaseFolded(char32_t(unit)))));
-    }
-    return key;
 }
 
 /// Where the first node of a list with a given key stands. A scene may hold
