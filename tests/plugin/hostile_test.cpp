@@ -13,6 +13,7 @@
 
 #include <cctype>
 #include <functional>
+#include <ostream>
 #include <string>
 #include <sys/fsuid.h>
 #include <sys/stat.h>
@@ -155,6 +156,11 @@ const HostileClass Classes[] = {
                 jobs.records[0].imageFileName.toQString(), QStringLiteral("ab").repeated(500));
         } },
 };
+
+void PrintTo(const HostileClass& c, std::ostream* os)
+{
+    *os << c.name;
+}
 
 class HostileScenes : public ::testing::TestWithParam<HostileClass>
 { };
