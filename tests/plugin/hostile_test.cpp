@@ -155,6 +155,13 @@ const HostileClass Classes[] = {
             EXPECT_EQ(
                 jobs.records[0].imageFileName.toQString(), QStringLiteral("ab").repeated(500));
         } },
+    { "a 2.5 MB parameter line whose name is a run of one letter, as is its value",
+        [] {
+            return driver("m1",
+                "ar_ass_file" + QByteArray(500000, 'a') + "\t(\t" + QByteArray(2000000, 'a')
+                    + "\t)\n");
+        },
+        1, 1, {} },
 };
 
 void PrintTo(const HostileClass& c, std::ostream* os)
