@@ -43,6 +43,11 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
         std::exit(1);
     }
     scenePath = dir + "/scene.hip";
+    static const std::string folder = dir;
+    std::atexit([] {
+        std::remove(scenePath.c_str());
+        rmdir(folder.c_str());
+    });
     return 0;
 }
 
