@@ -45,8 +45,13 @@ struct ZK_JOBS_EXPORT _RenderAppBasic
 
 namespace zkJ {
 
-/// Records per job array at most: a hostile scene must not drive the host out of memory.
-constexpr int MaxJobRecords = 10000;
+/// Records per job array at most: a hostile scene must not drive the host out
+/// of memory. The fuzz build lowers it (the sanitizer's realloc copies the
+/// whole block on every growth), so that inputs reach the cap cheaply.
+#ifndef ZK_MAX_JOB_RECORDS
+#    define ZK_MAX_JOB_RECORDS 10000
+#endif
+constexpr int MaxJobRecords = ZK_MAX_JOB_RECORDS;
 
 /// Structure tag and layout version of records and arrays.
 constexpr unsigned short JobStructureID = 1033;

@@ -19,3 +19,8 @@ LoadResult fanOutJobs(const LoadContext& ctx, const ScanResult& scan);
 /// The load after the scan: the scan's own result when a reader ended it,
 /// else the completion pass and the fan-out.
 LoadResult finishLoad(const LoadContext& ctx, const ScanResult& scan);
+
+/// A whole load once the scene is open: fresh module state, the scan of
+/// \p in, then finishLoad(). The entry point reads a file through it; the
+/// fuzz target feeds it from memory, so both run the same load.
+LoadResult loadLines(const LoadContext& ctx, LineSource& in);

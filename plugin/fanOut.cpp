@@ -3,6 +3,9 @@
 #include "completion.h"
 #include "plugin/jobCopy.h"
 #include "plugin/parserState.h"
+#include "plugin/readers/elementSection.h"
+
+#include <QHash>
 
 #include <algorithm>
 #include <array>
@@ -56,15 +59,31 @@ zkJ::_JobBasics_largePath* appendCopy(zkJ::_JobBasicsArray& jobs, int source)
     return copy;
 }
 
-/// The entry of \p takes equal to \p name ignoring case, or null.
-const QString* findTake(const QStringList& takes, const QString& name)
+/// The first entry of the take list equal to a name ignoring case. A scene
+/// may list millions of takes, so they are found through an index rather
+/// than a walk per job.
+class TakeList
 {
-    for (const QString& take : takes) {
-        if (take.compare(name, Qt::CaseInsensitive) == 0)
-            return &take;
+public:
+    explicit TakeList(const QStringList& names)
+        : takes(names)
+    {
+        for (int i = 0; i < takes.size(); ++i)
+            byName.note(caseFoldedKey(takes.at(i)), i);
     }
-    return nullptr;
-}
+
+    /// The entry equal to \p name ignoring case, or null.
+    const QString* find(const QString& name) const
+    {
+        const int i = byName.find(caseFoldedKey(name), int(takes.size()),
+            [&](int k) { return takes.at(k).compare(name, Qt::CaseInsensitive) == 0; });
+        return i < 0 ? nullptr : &takes.at(i);
+    }
+
+private:
+    const QStringList& takes;
+    elementSection::FirstIndex byName;
+};
 
 /// Every job renders the scene's first take unless its driver names one of
 /// its own; the jobs of drivers without a take of their own are copied once
@@ -72,6 +91,7 @@ const QString* findTake(const QStringList& takes, const QString& name)
 LoadResult fanOutTakes(zkJ::_JobBasicsArray& jobs, const QStringList& takes)
 {
     const int n = jobs.count;
+    const TakeList takeList(takes);
     std::vector<int> everyTake; // jobs whose drivers name no take the scene has
     for (int j = 0; j < n; ++j) {
         zkJ::_JobBasics_largePath* job = jobs.at(j);
@@ -80,7 +100,7 @@ LoadResult fanOutTakes(zkJ::_JobBasicsArray& jobs, const QStringList& takes)
         QString& driverTake = nodeActiveTakes[job->layer.toQString()];
         job->channel.set(takes.first());
         if (!driverTake.isEmpty()) {
-            if (const QString* take = findTake(takes, driverTake))
+            if (const QString* take = takeList.find(driverTake))
                 job->channel.set(*take);
             else
                 driverTake.clear(); // a take the scene does not have: render them all
@@ -127,16 +147,20 @@ LoadResult fanOutWedges(zkJ::_JobBasicsArray& jobs)
     firstWithPreID.fill(-1);
     for (int e = m - 1; e >= 0; --e)
         firstWithPreID[jobs.at(e)->preID] = e;
+    // The wedges of each driver in list order: a scene may hold many wedge
+    // drivers, and trying each on every job would multiply the two.
+    QHash<QString, std::vector<int>> wedgesOf;
+    for (int w = 0; w < wedges.size(); ++w)
+        wedgesOf[wedges.at(w).driver].push_back(w);
     // preID of the copy of job j made for wedge w and variant k.
     std::map<std::tuple<int, int, int>, unsigned char> copies;
     for (int j = 0; j < m; ++j) {
-        for (int w = 0; w < wedges.size(); ++w) {
+        const zkJ::_JobBasics_largePath* job = jobs.at(j);
+        if (!job)
+            return LoadNoJobRecord;
+        const auto driven = wedgesOf.constFind(job->layer.toQString());
+        for (const int w : driven == wedgesOf.cend() ? std::vector<int>() : *driven) {
             _wedgeNode& wedge = wedges[w];
-            const zkJ::_JobBasics_largePath* source = jobs.at(j);
-            if (!source)
-                return LoadNoJobRecord;
-            if (wedge.driver != source->layer.view())
-                continue;
             const int total = wedge.totalWedges();
             for (int k = 0; k < total; ++k) {
                 zkJ::_JobBasics_largePath* copy = appendCopy(jobs, j);
@@ -162,11 +186,12 @@ LoadResult fanOutWedges(zkJ::_JobBasicsArray& jobs)
                     copy->waitForPreIDs[0] = found->second;
             }
         }
-        zkJ::_JobBasics_largePath* job = jobs.at(j);
-        if (!job)
+        // Copying may have moved the records.
+        zkJ::_JobBasics_largePath* own = jobs.at(j);
+        if (!own)
             return LoadNoJobRecord;
-        job->auxByte3 = 0;
-        removeWedgeTokens(*job);
+        own->auxByte3 = 0;
+        removeWedgeTokens(*own);
     }
     return LoadOk;
 }
@@ -203,4 +228,17 @@ LoadResult finishLoad(const LoadContext& ctx, const ScanResult& scan)
     if (result != LoadOk)
         return result;
     return fanOutJobs(ctx, scan);
+}
+
+LoadResult loadLines(const LoadContext& ctx, LineSource& in)
+{
+    resetParserState();
+    const ScanResult scan = scanScene(ctx, in);
+    const LoadResult result = finishLoad(ctx, scan);
+    // A refused getNewJob leaves count one past the records there are (result
+    // 7); the host reads count records, so it must not be told of that one.
+    zkJ::_JobBasicsArray& jobs = *ctx.data->jobs;
+    if (jobs.count > jobs.allocated)
+        jobs.count = jobs.allocated;
+    return result;
 }

@@ -47,8 +47,13 @@ public:
 
     /// Bytes read at a time: large enough that the per-call cost vanishes,
     /// small enough that a chunk is still in the second-level cache when it
-    /// is searched.
+    /// is searched. The fuzz build reads small chunks, so that lines often
+    /// run across chunk ends.
+#ifdef ZK_LINE_CHUNK_BYTES
+    static constexpr qsizetype ChunkBytes = ZK_LINE_CHUNK_BYTES;
+#else
     static constexpr qsizetype ChunkBytes = qsizetype(256) << 10;
+#endif
 
     /// What makes a line worth handing to the scanner: a key at the line's
     /// first visible byte (a lead, after ASCII blanks) or anywhere in it (a

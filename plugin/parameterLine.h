@@ -5,6 +5,8 @@
 // ")", so that a path holding ")" (an expression, a folder name) stays whole.
 #pragma once
 
+#include "plugin/textSearch.h"
+
 #include <QString>
 
 namespace parameterLine {
@@ -62,9 +64,9 @@ inline QString parameterName(const QString& line)
 inline QString withoutSelfReference(QString value, const QString& name)
 {
     const QString reference = QStringLiteral("[ ") + name;
-    if (!value.contains(reference))
+    if (!containsLinear(value, reference))
         return value;
-    value.remove(reference);
+    value = removeAll(value, reference);
     value.remove(u']');
     return value.trimmed();
 }

@@ -12,6 +12,12 @@ namespace {
 
 constexpr int MaxEnvironmentValueLength = 200;
 
+/// Every expanded path walks the whole variable list; past this many entries
+/// further "set -g" lines are not kept, so a scene of millions of them does
+/// not make each path cost millions of steps. Real scenes set a few dozen
+/// (the 57 scenes of the test corpus at most 20).
+constexpr qsizetype MaxSceneVariables = 256;
+
 /// Renderer markers of a section header under obj/, img/ or stage/, in the
 /// order they are tried.
 const char* const RendererMarkers[] = {
@@ -246,6 +252,8 @@ void readSaveVersion(QStringView line, ScanResult& scan)
 
 void readGlobalVariable(QStringView line, qsizetype setAt)
 {
+    if (hVariables.size() >= MaxSceneVariables)
+        return;
     const qsizetype assign = line.indexOf(QStringView(u" = "));
     const qsizetype nameAt = setAt + 7;
     // QString::mid semantics: a negative length reads to the end.

@@ -45,15 +45,9 @@ LoadResult loadScene(zkP::_dataPARS_LoadSceneFile& data)
     if (!file.open(QIODevice::ReadOnly))
         return LoadCannotOpen;
 
-    resetParserState();
-    ScanResult scan;
-    {
-        QTextStream stream(&file);
-        LineSource in(stream);
-        scan = scanScene(ctx, in);
-    }
-    file.close();
-    return finishLoad(ctx, scan);
+    QTextStream stream(&file);
+    LineSource in(stream);
+    return loadLines(ctx, in);
 }
 
 } // namespace

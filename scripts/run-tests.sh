@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
 # Builds and runs every test twice: in the normal build and in an
-# AddressSanitizer + UndefinedBehaviorSanitizer build. Also checks formatting.
+# AddressSanitizer + UndefinedBehaviorSanitizer build. Also checks formatting
+# and runs each fuzz target for a bounded time (about two minutes in all),
+# failing on any finding.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -14,6 +16,9 @@ echo "== normal build"
 cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DZK_WERROR=ON
 cmake --build build -j"$jobs"
 (cd build && ctest --output-on-failure -j"$jobs")
+
+echo "== fuzz targets"
+bash scripts/run-fuzz.sh
 
 echo "== sanitizer build"
 cmake -S . -B build-asan -DCMAKE_BUILD_TYPE=Debug -DZK_SANITIZE=ON -DZK_WERROR=ON -DZK_BENCH=OFF

@@ -1,8 +1,15 @@
 #include "imageTokens.h"
 
 #include "plugin/parameterLine.h"
+#include "plugin/textSearch.h"
 
 namespace {
+
+/// Redshift puts each picture value in front of the path read so far, and a
+/// section of a million such lines would copy the growing path a million
+/// times. A value that would take the path past this length is not taken;
+/// real paths stay far below the 1000 units of the field they end in.
+constexpr qsizetype MaxPrependedPathLength = 10000;
 
 /// Replaces the token of \p length characters at \p at by "%", keeping one
 /// width digit behind it, and closes the placeholder with "d".
@@ -68,7 +75,7 @@ bool replaceImageOutVars(
 
     // A value that refers to its own parameter ("[ picture]") is only usable
     // as the first path found for the node.
-    if (value.contains(QStringLiteral("[ ") + name, Qt::CaseSensitive)) {
+    if (containsLinear(value, QStringLiteral("[ ") + name)) {
         if (!imageOut.isEmpty())
             return false;
         value = parameterLine::withoutSelfReference(value, name);
@@ -79,6 +86,8 @@ bool replaceImageOutVars(
     if (value.isEmpty() || value.contains(QStringLiteral("testfile.exr"), Qt::CaseSensitive))
         return false;
 
+    if (prepend && imageOut.size() + value.size() > MaxPrependedPathLength)
+        return false;
     imageOut = prepend ? value + imageOut : value;
     return true;
 }

@@ -21,17 +21,19 @@ bool isExcludedCamera(const _zkString8_allSize<150>& name)
 
 int _camList::findCamIndex(_zkString8_allSize<150> const& name)
 {
-    for (int i = 0; i < list.size(); ++i) {
-        if (list.at(i).name.isEqual(name))
-            return i;
-    }
+    const QString key = name.toQString();
+    const int found
+        = byName.find(key, int(list.size()), [&](int i) { return list.at(i).name.isEqual(name); });
+    if (found >= 0)
+        return found;
+    // Unnamed (and so not in the index) until the caller names it.
     list.append(_camNode());
     return int(list.size()) - 1;
 }
 
 int _camList::findCamIndexByRenderNode(QString const& driverPath) const
 {
-    return elementSection::findByRenderNode(list, driverPath);
+    return elementSection::findByRenderNode(list, byDriver, driverPath);
 }
 
 void _camList::addCamFromOutNode(_zkString8_allSize<150> camera, QString const& driverPath)
@@ -40,17 +42,24 @@ void _camList::addCamFromOutNode(_zkString8_allSize<150> camera, QString const& 
         camera.remove(0, 9);
         camera.setLength(short(camera.length - 1));
     }
-    _camNode& entry = list[findCamIndex(camera)];
-    entry.name = camera;
-    entry.renderNodes.append(driverPath);
+    const int index = findCamIndex(camera);
+    name(index, camera);
+    elementSection::addRenderNode(list, byDriver, index, driverPath);
+}
+
+void _camList::name(int index, const _zkString8_allSize<150>& name)
+{
+    list[index].name = name;
+    byName.note(name.toQString(), index);
 }
 
 void _camList::addCam(_camNode& cam)
 {
     if (isExcludedCamera(cam.name))
         return;
-    _camNode& entry = list[findCamIndex(cam.name)];
-    entry.name = cam.name;
+    const int index = findCamIndex(cam.name);
+    name(index, cam.name);
+    _camNode& entry = list[index];
     entry.resX = cam.resX;
     entry.resY = cam.resY;
     entry.isStereo = cam.isStereo;

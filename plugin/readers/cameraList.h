@@ -2,6 +2,7 @@
 // and the output drivers that render through each camera.
 #pragma once
 
+#include "plugin/readers/elementSection.h"
 #include "shared/zkString.h"
 
 #include <QList>
@@ -25,5 +26,12 @@ public:
     void addCamFromOutNode(_zkString8_allSize<150> camera, QString const& driverPath);
     void addCam(_camNode& cam);
 
+    /// Add through the members above: they keep the lookups' indexes.
     QList<_camNode> list;
+
+private:
+    void name(int index, const _zkString8_allSize<150>& name);
+
+    elementSection::FirstIndex byName;
+    elementSection::FirstIndex byDriver;
 };

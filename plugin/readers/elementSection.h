@@ -3,6 +3,10 @@
 // line, and the channel-expression prefix that drivers put around node paths.
 #pragma once
 
+#include "plugin/textSearch.h"
+
+#include <QChar>
+#include <QHash>
 #include <QLatin1String>
 #include <QList>
 #include <QString>
@@ -58,33 +62,76 @@ inline QString unwrapChsop(QString text)
     return text;
 }
 
+/// Where the first node of a list with a given key stands. A scene may hold
+/// hundreds of thousands of sections, and a walk of the list for each one
+/// makes its load quadratic. A position is trusted only once the node there
+/// is seen to match; one that no longer does falls back to the walk.
+class FirstIndex
+{
+public:
+    /// The first position below \p size whose node \p matches, or -1.
+    template <typename Matches>
+    int find(const QString& key, int size, Matches&& matches) const
+    {
+        const auto hit = first.constFind(key);
+        if (hit == first.cend())
+            return -1;
+        if (*hit < size && matches(*hit))
+            return *hit;
+        for (int i = 0; i < size; ++i) {
+            if (matches(i))
+                return i;
+        }
+        return -1;
+    }
+
+    /// The node at \p index now has \p key.
+    void note(const QString& key, int index)
+    {
+        const auto hit = first.find(key);
+        if (hit == first.end())
+            first.insert(key, index);
+        else if (index < *hit)
+            *hit = index;
+    }
+
+private:
+    QHash<QString, int> first;
+};
+
 /// Index of the first node whose nodePath equals \p nodePath ignoring case;
 /// when there is none, a new node with that path is appended (its index
 /// returned) if \p create is set, else -1.
 template <typename Node>
-int findByNodePath(QList<Node>& list, const QString& nodePath, bool create)
+int findByNodePath(QList<Node>& list, FirstIndex& byPath, const QString& nodePath, bool create)
 {
-    for (int i = 0; i < list.size(); ++i) {
-        if (list.at(i).nodePath.compare(nodePath, Qt::CaseInsensitive) == 0)
-            return i;
-    }
-    if (!create)
-        return -1;
+    const QString key = caseFoldedKey(nodePath);
+    const int found = byPath.find(key, int(list.size()),
+        [&](int i) { return list.at(i).nodePath.compare(nodePath, Qt::CaseInsensitive) == 0; });
+    if (found >= 0 || !create)
+        return found;
     Node node;
     node.nodePath = nodePath;
     list.append(node);
-    return int(list.size()) - 1;
+    const int index = int(list.size()) - 1;
+    byPath.note(key, index);
+    return index;
 }
 
 /// Index of the first node whose renderNodes hold \p driverPath exactly, or -1.
 template <typename Node>
-int findByRenderNode(const QList<Node>& list, const QString& driverPath)
+int findByRenderNode(const QList<Node>& list, const FirstIndex& byDriver, const QString& driverPath)
 {
-    for (int i = 0; i < list.size(); ++i) {
-        if (list.at(i).renderNodes.contains(driverPath, Qt::CaseSensitive))
-            return i;
-    }
-    return -1;
+    return byDriver.find(driverPath, int(list.size()),
+        [&](int i) { return list.at(i).renderNodes.contains(driverPath, Qt::CaseSensitive); });
+}
+
+/// Appends \p driverPath to the render nodes of node \p index.
+template <typename Node>
+void addRenderNode(QList<Node>& list, FirstIndex& byDriver, int index, const QString& driverPath)
+{
+    list[index].renderNodes.append(driverPath);
+    byDriver.note(driverPath, index);
 }
 
 } // namespace elementSection

@@ -48,18 +48,18 @@ QString _LOPNode::rendererName_create() const
 
 int _LOPList::findLOPIndex(QString const& nodePath, bool const& create)
 {
-    return elementSection::findByNodePath(list, nodePath, create);
+    return elementSection::findByNodePath(list, byPath, nodePath, create);
 }
 
 int _LOPList::findLOPIndexByRenderNode(QString const& driverPath) const
 {
-    return elementSection::findByRenderNode(list, driverPath);
+    return elementSection::findByRenderNode(list, byDriver, driverPath);
 }
 
 int _LOPList::addLOPFromOutNode(QString lopPath, QString const& driverPath)
 {
     const int index = findLOPIndex(elementSection::unwrapChsop(lopPath), true);
-    list[index].renderNodes.append(driverPath);
+    elementSection::addRenderNode(list, byDriver, index, driverPath);
     return index;
 }
 

@@ -1,6 +1,8 @@
 // LOP nodes of one scene: image output and renderer, and the drivers that render them.
 #pragma once
 
+#include "plugin/readers/elementSection.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -26,5 +28,10 @@ public:
     int addLOPFromOutNode(QString lopPath, QString const& driverPath);
     void addLOP(_LOPNode& node);
 
+    /// Add through the members above: they keep the lookups' indexes.
     QList<_LOPNode> list;
+
+private:
+    elementSection::FirstIndex byPath;
+    elementSection::FirstIndex byDriver;
 };

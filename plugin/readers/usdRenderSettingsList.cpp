@@ -12,7 +12,7 @@ void _USD_RendersettingNode::clear()
 
 int _USD_RSList::findIndex(QString const& nodePath, bool const& create)
 {
-    return elementSection::findByNodePath(list, nodePath, create);
+    return elementSection::findByNodePath(list, byPath, nodePath, create);
 }
 
 int _USD_RSList::addFromROP(QString name, QString const& driverPath)

@@ -1,6 +1,8 @@
 // USD render-settings nodes of one scene and the drivers registered with them.
 #pragma once
 
+#include "plugin/readers/elementSection.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -27,5 +29,9 @@ public:
     int addFromROP(QString name, QString const& driverPath);
     int add(_USD_RendersettingNode& node);
 
+    /// Add through the members above: they keep the lookups' indexes.
     QList<_USD_RendersettingNode> list;
+
+private:
+    elementSection::FirstIndex byPath;
 };
