@@ -284,8 +284,8 @@ void lineSourceDecoded(benchmark::State& state, Scene& scene)
         file.open(QIODevice::ReadOnly);
         QTextStream stream(&file);
         LineSource source(stream);
-        QStringView line;
-        while (source.nextView(line)) { }
+        QString line;
+        while (source.next(line)) { }
     });
 }
 

@@ -434,16 +434,6 @@ bool LineSource::next(QString& line)
     return true;
 }
 
-bool LineSource::nextView(QStringView& line)
-{
-    if (!next(decoded)) {
-        line = QStringView();
-        return false;
-    }
-    line = decoded;
-    return true;
-}
-
 QByteArrayView LineSource::trimmedAscii(QByteArrayView raw)
 {
     const auto blank = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
@@ -476,7 +466,7 @@ QByteArrayView LineSource::take(qsizetype end)
     return line;
 }
 
-bool LineSource::nextRaw(QByteArrayView& bytes, bool* hasUnderscore)
+bool LineSource::nextRaw(QByteArrayView& bytes)
 {
     for (;;) {
         const qsizetype end = findNewline(searched);
@@ -494,8 +484,6 @@ bool LineSource::nextRaw(QByteArrayView& bytes, bool* hasUnderscore)
             break;
         }
     }
-    if (hasUnderscore)
-        *hasUnderscore = bytes.contains('_');
     return true;
 }
 

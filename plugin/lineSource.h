@@ -133,21 +133,20 @@ public:
     /// \p line emptied) when the input is exhausted.
     bool next(QString& line);
 
-    /// As next(); \p line stays valid until the next call of any next*().
-    bool nextView(QStringView& line);
-
     /// The next line's raw bytes, "\r" removed, neither decoded nor trimmed;
     /// valid until the next call of any next*(). Decode with decode(); look
-    /// at the first visible byte with trimmedAscii(). \p hasUnderscore, when
-    /// given, tells whether the line holds a '_'.
-    bool nextRaw(QByteArrayView& bytes, bool* hasUnderscore = nullptr);
+    /// at the first visible byte with trimmedAscii().
+    bool nextRaw(QByteArrayView& bytes);
 
     /// The next line that holds one of \p marks, as nextRaw(); every line
     /// before it is read past, and so is a line over MaxLineBytes.
     bool nextMarked(QByteArrayView& bytes, const Marks& marks);
 
     /// The text of a raw line: UTF-8 decoded and trimmed.
-    static QString decode(QByteArrayView raw) { return QString::fromUtf8(raw).trimmed(); }
+    static QString decode(QByteArrayView raw)
+    {
+        return QString::fromUtf8(raw).trimmed();
+    }
 
     /// A raw line without its ASCII blanks at both ends: a reader's line loop
     /// can reject most lines on front() without decoding them. When the first
@@ -178,7 +177,6 @@ private:
     /// zero bytes so 64-byte blocks may be read past the end.
     QByteArray buffer;
     qsizetype size = 0; ///< bytes of input in buffer
-    QString decoded; ///< backing text of the last nextView()
     qsizetype pos = 0; ///< start of the unread bytes in buffer, always a line start
     qsizetype searched = 0; ///< no "\n" stands between pos and this index
     bool started = false;

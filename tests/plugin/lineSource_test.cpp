@@ -70,64 +70,23 @@ TEST(LineSource, LinesAcrossChunkBoundariesStayWhole)
     EXPECT_EQ(readAll(text), expected);
 }
 
-TEST(LineSource, ViewsAndCopiesShareOnePosition)
+TEST(LineSource, AtEndAndAfterTheLastLine)
 {
-    zkTest::TextLines lines("one\ntwo\nthree\n");
-    QStringView view;
-    QString copy;
-    ASSERT_TRUE(lines.source.nextView(view));
-    EXPECT_EQ(view, u"one");
-    ASSERT_TRUE(lines.source.next(copy));
-    EXPECT_EQ(copy, QStringLiteral("two"));
+    zkTest::TextLines lines("one\ntwo\n");
+    QString line;
+    ASSERT_TRUE(lines.source.next(line));
     EXPECT_FALSE(lines.source.atEnd());
-    ASSERT_TRUE(lines.source.nextView(view));
-    EXPECT_EQ(view, u"three");
+    ASSERT_TRUE(lines.source.next(line));
     EXPECT_TRUE(lines.source.atEnd());
-    EXPECT_FALSE(lines.source.next(copy));
-    EXPECT_TRUE(copy.isEmpty());
-    EXPECT_FALSE(lines.source.nextView(view));
+    EXPECT_FALSE(lines.source.next(line));
+    EXPECT_TRUE(line.isEmpty());
 }
-
-} // namespace
-
-namespace {
 
 TEST(LineSource, LeadingByteOrderMarkIsSkipped)
 {
     EXPECT_EQ(readAll(QByteArray("\xef\xbb\xbf"
                                  "frange 1 2\nx")),
         QStringList({ QStringLiteral("frange 1 2"), QStringLiteral("x") }));
-}
-
-TEST(LineSource, RawLinesReportTheirUnderscores)
-{
-    // Underscores far apart and lines longer than a read chunk check that the
-    // one-pass search stays in step with the lines across chunk boundaries.
-    QByteArray text;
-    QList<bool> expected;
-    for (int i = 0; i < 4000; ++i) {
-        const bool withUnderscore = i % 7 == 0 || i % 11 == 0;
-        QByteArray line(i % 5 == 0 ? 3000 : 40, 'a');
-        if (withUnderscore)
-            line[i % line.size()] = '_';
-        if (i % 13 == 0)
-            line.append('\r');
-        text += line + '\n';
-        expected.append(withUnderscore);
-    }
-    text += QByteArray(3 * 1024 * 1024, 'b') + "_tail";
-    expected.append(true);
-
-    zkTest::TextLines lines(text);
-    QList<bool> seen;
-    QByteArrayView raw;
-    bool hasUnderscore = false;
-    while (lines.source.nextRaw(raw, &hasUnderscore)) {
-        EXPECT_EQ(hasUnderscore, raw.contains('_')) << seen.size();
-        EXPECT_FALSE(raw.contains('\r')) << seen.size();
-        seen.append(hasUnderscore);
-    }
-    EXPECT_EQ(seen, expected);
 }
 
 } // namespace
