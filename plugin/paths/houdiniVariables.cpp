@@ -48,6 +48,19 @@ void replaceAny(QString& text, QString& folded, const QString& pattern, const QS
 /// spares.
 bool mayReference(const QString& folded, const QString& name)
 {
+    // A first look at the few "$" of a path rules out nearly every variable
+    // before a search is set up: the name's first character must follow one.
+    const QString first
+        = caseFoldedKey(QStringView(name).left(name.front().isHighSurrogate() ? 2 : 1));
+    bool follows = false;
+    for (qsizetype at = folded.indexOf(u'$'); at >= 0 && !follows;
+         at = folded.indexOf(u'$', at + 1)) {
+        const QStringView rest = QStringView(folded).mid(at + 1);
+        follows
+            = rest.startsWith(first) || (rest.startsWith(u'{') && rest.mid(1).startsWith(first));
+    }
+    if (!follows)
+        return false;
     return LinearSearch(QString(u'$' + name), Qt::CaseInsensitive).indexIn(folded) >= 0
         || LinearSearch(QString(QStringLiteral("${") + name), Qt::CaseInsensitive).indexIn(folded)
         >= 0;
