@@ -22,17 +22,9 @@ namespace zkFuzz {
     std::abort();
 }
 
-template <int N>
-ZK_NOT_FUZZED void checkText(const _zkString<N>& s, const char* what, int job)
-{
-    if (s.length > N)
-        fail(what, job);
-    if (s.data[s.length] != 0)
-        fail(what, job);
-}
-
-template <int N>
-ZK_NOT_FUZZED void checkText(const _zkString8_allSize<N>& s, const char* what, int job)
+/// Either string kind: `_zkString` or `_zkString8_allSize`.
+template <template <int> class Text, int N>
+ZK_NOT_FUZZED void checkText(const Text<N>& s, const char* what, int job)
 {
     if (s.length > N)
         fail(what, job);
