@@ -6,6 +6,7 @@
 #include <QChar>
 #include <QString>
 
+#include <cstddef>
 #include <cstring>
 #include <type_traits>
 
@@ -44,14 +45,88 @@ inline int findUnits(
     return -1;
 }
 
+/// What both string kinds do alike. Derived holds `length` and `data`; the
+/// base has no members, so it adds no bytes and the host layout is Derived's.
+template <typename Derived, typename Unit>
+struct FixedString
+{
+    void clear() { terminateAt(0); }
+    bool isEmpty() const { return self().length == 0; }
+    int size() const { return self().length; }
+
+    /// Cuts to n units; n above the current length (or negative) does nothing.
+    void setLength(const short& n)
+    {
+        if (n < 0 || n > self().length)
+            return;
+        terminateAt(n);
+    }
+
+    void remove(const int& pos, const int& count)
+    {
+        const int length = self().length;
+        if (pos < 0 || pos >= length || count <= 0)
+            return;
+        const int n = count > length - pos ? length - pos : count;
+        Unit* data = self().data;
+        std::memmove(data + pos, data + pos + n, size_t(length - pos - n) * sizeof(Unit));
+        terminateAt(length - n);
+    }
+
+    int indexOf(const Derived& text, int from) const
+    {
+        return findUnits(self().data, self().length, text.data, text.length, from, false);
+    }
+
+    /// Exact comparison of the texts; stale units behind the terminator do not count.
+    bool isEqual(const Derived& other) const
+    {
+        return self().length == other.length
+            && unitsEqual(self().data, other.data, self().length, true);
+    }
+
+    bool endsWith(const Unit& ch) const
+    {
+        return self().length > 0 && self().data[self().length - 1] == ch;
+    }
+
+protected:
+    /// min(n, capacity) units (n < 0 reads as 0), then the terminator; units
+    /// may lie inside data.
+    void assignUnits(const Unit* units, int n)
+    {
+        if (n < 0)
+            n = 0;
+        if (n > Derived::capacity)
+            n = Derived::capacity;
+        if (n > 0)
+            std::memmove(self().data, units, size_t(n) * sizeof(Unit));
+        terminateAt(n);
+    }
+
+    void terminateAt(int n)
+    {
+        self().length = static_cast<unsigned short>(n);
+        self().data[n] = 0;
+    }
+
+private:
+    Derived& self() { return static_cast<Derived&>(*this); }
+    const Derived& self() const { return static_cast<const Derived&>(*this); }
+};
+
 } // namespace zkStr
 
 /// UTF-16 string of at most N units: u16 length, a reserved u16, N+1 units.
 /// Members whose name ends in CaseSen compare letter case exactly; the others
 /// ignore it (except isEqual and left, which are exact).
 template <int N>
-struct _zkString
+struct _zkString : zkStr::FixedString<_zkString<N>, unsigned short>
 {
+    using Base = zkStr::FixedString<_zkString<N>, unsigned short>;
+    using Base::endsWith;
+    using Base::indexOf;
+
     unsigned short length;
     unsigned short reserved;
     unsigned short data[N + 1];
@@ -98,17 +173,7 @@ struct _zkString
     {
         setUnits(reinterpret_cast<const unsigned short*>(units), n);
     }
-    void setUnits(const unsigned short* units, int n)
-    {
-        if (n < 0)
-            n = 0;
-        if (n > N)
-            n = N;
-        if (n > 0)
-            std::memmove(data, units, size_t(n) * 2);
-        length = static_cast<unsigned short>(n);
-        data[n] = 0;
-    }
+    void setUnits(const unsigned short* units, int n) { this->assignUnits(units, n); }
     void setLatin1(const char* text)
     {
         int n = 0;
@@ -116,8 +181,7 @@ struct _zkString
             for (; text[n] && n < N; ++n)
                 data[n] = static_cast<unsigned char>(text[n]);
         }
-        length = static_cast<unsigned short>(n);
-        data[n] = 0;
+        this->terminateAt(n);
     }
 
     QString toQString() const
@@ -137,40 +201,10 @@ struct _zkString
             n = N - length;
         if (n > 0)
             std::memcpy(data + length, text.utf16(), size_t(n) * 2);
-        length = static_cast<unsigned short>(length + n);
-        data[length] = 0;
-    }
-
-    // ---- state -------------------------------------------------------------
-
-    void clear()
-    {
-        length = 0;
-        data[0] = 0;
-    }
-    bool isEmpty() const { return length == 0; }
-    int size() const { return length; }
-
-    /// Cuts to n units; n above the current length (or negative) does nothing.
-    void setLength(const short& n)
-    {
-        if (n < 0 || n > length)
-            return;
-        length = static_cast<unsigned short>(n);
-        data[length] = 0;
+        this->terminateAt(length + n);
     }
 
     // ---- editing -----------------------------------------------------------
-
-    void remove(const int& pos, const int& count)
-    {
-        if (pos < 0 || pos >= length || count <= 0)
-            return;
-        const int n = count > length - pos ? length - pos : count;
-        std::memmove(data + pos, data + pos + n, size_t(length - pos - n) * 2);
-        length = static_cast<unsigned short>(length - n);
-        data[length] = 0;
-    }
 
     void insert(const int& pos, const _zkString& text)
     {
@@ -212,10 +246,6 @@ struct _zkString
         }
         return -1;
     }
-    int indexOf(const _zkString& text, int from) const
-    {
-        return zkStr::findUnits(data, length, text.data, text.length, from, false);
-    }
 
     /// Last position of ch at or before from; from -1 (or beyond the end) searches from the end.
     int lastIndexOf(const unsigned short& ch, int from) const
@@ -245,16 +275,9 @@ struct _zkString
         }
         return true;
     }
-    bool endsWith(const unsigned short& ch) const { return length > 0 && data[length - 1] == ch; }
     bool endsWith(const QString& text) const
     {
         return toQString().endsWith(text, Qt::CaseInsensitive);
-    }
-
-    /// Exact comparison of the texts; stale units behind the terminator do not count.
-    bool isEqual(const _zkString& other) const
-    {
-        return length == other.length && zkStr::unitsEqual(data, other.data, length, true);
     }
 
     /// Text before the first ch (exact); the whole text when ch does not occur.
@@ -297,8 +320,11 @@ private:
 /// 8-bit (Latin-1) string of at most N bytes: u16 length, then the bytes and a
 /// terminator, the whole rounded up to an even size.
 template <int N>
-struct _zkString8_allSize
+struct _zkString8_allSize : zkStr::FixedString<_zkString8_allSize<N>, char>
 {
+    using Base = zkStr::FixedString<_zkString8_allSize<N>, char>;
+    using Base::remove;
+
     unsigned short length;
     char data[((N + 3 + 1) & ~1) - 2];
 
@@ -335,47 +361,12 @@ struct _zkString8_allSize
             const char16_t u = text[i].unicode();
             data[i] = static_cast<char>(u > 0xFF ? '?' : u);
         }
-        length = static_cast<unsigned short>(n);
-        data[n] = 0;
+        this->terminateAt(n);
     }
     void setLatin1(const char* text) { setBytes(text, text ? int(std::strlen(text)) : 0); }
-    void setBytes(const char* bytes, int n)
-    {
-        if (n < 0)
-            n = 0;
-        if (n > N)
-            n = N;
-        if (n > 0)
-            std::memmove(data, bytes, size_t(n));
-        length = static_cast<unsigned short>(n);
-        data[n] = 0;
-    }
+    void setBytes(const char* bytes, int n) { this->assignUnits(bytes, n); }
     QString toQString() const { return QString::fromLatin1(data, length); }
 
-    void clear()
-    {
-        length = 0;
-        data[0] = 0;
-    }
-    bool isEmpty() const { return length == 0; }
-    int size() const { return length; }
-
-    void setLength(const short& n)
-    {
-        if (n < 0 || n > length)
-            return;
-        length = static_cast<unsigned short>(n);
-        data[length] = 0;
-    }
-    void remove(const int& pos, const int& count)
-    {
-        if (pos < 0 || pos >= length || count <= 0)
-            return;
-        const int n = count > length - pos ? length - pos : count;
-        std::memmove(data + pos, data + pos + n, size_t(length - pos - n));
-        length = static_cast<unsigned short>(length - n);
-        data[length] = 0;
-    }
     /// Removes every occurrence of ch.
     void remove(const char& ch)
     {
@@ -384,8 +375,7 @@ struct _zkString8_allSize
             if (data[r] != ch)
                 data[w++] = data[r];
         }
-        length = static_cast<unsigned short>(w);
-        data[w] = 0;
+        this->terminateAt(w);
     }
     void makeUpper()
     {
@@ -399,15 +389,6 @@ struct _zkString8_allSize
         const int m = text ? int(std::strlen(text)) : 0;
         return m <= length && zkStr::unitsEqual(data, text, m, false);
     }
-    int indexOf(const _zkString8_allSize& text, int from) const
-    {
-        return zkStr::findUnits(data, length, text.data, text.length, from, false);
-    }
-    bool isEqual(const _zkString8_allSize& other) const
-    {
-        return length == other.length && std::memcmp(data, other.data, length) == 0;
-    }
-    bool endsWith(const char& ch) const { return length > 0 && data[length - 1] == ch; }
 };
 
 /// The 16-byte digest of a command password.
@@ -416,6 +397,9 @@ using _passHash = _zkString8_allSize<16>;
 #define ZK_ASSERT_STRING_SIZE(N)                                                                   \
     static_assert(sizeof(_zkString<N>) == 2 * (N) + 6, "length, reserved unit, N+1 units");        \
     static_assert(alignof(_zkString<N>) == 2, "UTF-16 string is 2-aligned");                       \
+    static_assert(offsetof(_zkString<N>, length) == 0 && offsetof(_zkString<N>, reserved) == 2     \
+            && offsetof(_zkString<N>, data) == 4,                                                  \
+        "the shared base adds no bytes");                                                          \
     static_assert(std::is_trivially_copyable_v<_zkString<N>>, "records are memcpy'd");             \
     static_assert(std::is_standard_layout_v<_zkString<N>>, "host reads it by offset")
 
@@ -433,6 +417,10 @@ ZK_ASSERT_STRING_SIZE(1000);
 
 #define ZK_ASSERT_STRING8_SIZE(N, BYTES)                                                           \
     static_assert(sizeof(_zkString8_allSize<N>) == (BYTES), "u16 length, N+1 bytes, even size");   \
+    static_assert(alignof(_zkString8_allSize<N>) == 2, "8-bit string is 2-aligned");               \
+    static_assert(offsetof(_zkString8_allSize<N>, length) == 0                                     \
+            && offsetof(_zkString8_allSize<N>, data) == 2,                                         \
+        "the shared base adds no bytes");                                                          \
     static_assert(std::is_trivially_copyable_v<_zkString8_allSize<N>>, "records are memcpy'd");    \
     static_assert(std::is_standard_layout_v<_zkString8_allSize<N>>, "host reads it by offset")
 
