@@ -72,20 +72,10 @@ void relativeTo(QString& dir, const QString& folder, const QString& token, int d
         dir = cut(dir.replace(folder, token, Qt::CaseSensitive), dirCap);
 }
 
-} // namespace
-
-template <int DirCap, int FileCap>
-void template_splitImageFileInto_DirFileExt(const bool& printfStyle, _zkString<FileCap>& fileNameIO,
-    _zkString<DirCap>& dirIO, _zkString<25>& extensionIO, bool& singleFile, unsigned char& padding,
-    _zkString<DirCap> databaseDirIn, _zkString<DirCap> sceneNameIn)
+/// The separator the paths use, with the other kind turned into it in all four
+/// paths. A file name that mixes both kinds follows the one it uses first.
+QChar unifySeparators(QString& fileName, QString& dir, QString& sceneName, QString& databaseDir)
 {
-    QString fileName = fileNameIO.toQString();
-    QString dir = dirIO.toQString();
-    QString extension = extensionIO.toQString();
-    QString databaseDir = databaseDirIn.toQString();
-    QString sceneName = sceneNameIn.toQString();
-
-    // Separator: a path that mixes both kinds follows the one it uses first.
     const qsizetype firstSlash = fileName.indexOf(u'/');
     const qsizetype firstBackslash = fileName.indexOf(u'\\');
     QChar sep = firstBackslash >= 0 ? QChar(u'\\') : QChar(u'/');
@@ -100,15 +90,24 @@ void template_splitImageFileInto_DirFileExt(const bool& printfStyle, _zkString<F
     const QChar otherSep = sep == u'/' ? QChar(u'\\') : QChar(u'/');
     sceneName.replace(otherSep, sep);
     databaseDir.replace(otherSep, sep);
+    return sep;
+}
 
+/// Runs of separators shrunk, then "." and ".." resolved.
+void cleanFileName(QString& fileName, int fileCap)
+{
     removeFourBackslashes(fileName);
     const QString fourSlashes = QStringLiteral("////");
     while (fileName.contains(fourSlashes))
         fileName.remove(fileName.indexOf(QStringLiteral("//")), 2);
     collapseDoubled(fileName);
+    fileName = cut(zkPathResolve(fileName), fileCap);
+}
 
-    fileName = cut(zkPathResolve(fileName), FileCap);
-
+/// Without a directory of its own the job takes the file name's, up to the
+/// last separator before any token that has separators inside it.
+void takeDirectory(QString& fileName, QString& dir, QChar sep, int dirCap)
+{
     if (dir.isEmpty() && fileName.contains(sep)) {
         qsizetype stop = -1;
         for (const QString& token : dirStopTokens()) {
@@ -118,84 +117,105 @@ void template_splitImageFileInto_DirFileExt(const bool& printfStyle, _zkString<F
         }
         const qsizetype i = fileName.lastIndexOf(sep, stop < 0 ? -1 : stop);
         if (i >= 0) {
-            dir = cut(fileName.left(i + 1), DirCap);
+            dir = cut(fileName.left(i + 1), dirCap);
             fileName.remove(0, i + 1);
         }
     }
-
+    // A drive letter gets its separator: "C:dir" becomes "C:\dir".
     if (dir.size() > 3 && dir.at(1) == u':' && dir.at(2) != sep)
-        dir = cut(dir.insert(2, sep), DirCap);
+        dir = cut(dir.insert(2, sep), dirCap);
+}
 
-    const QString f0 = fileName;
-    const QString e0 = extension;
+/// Splits the frame token off a file name that came without an extension: a
+/// printf placeholder or a run of "#" give the padding; a written frame number
+/// is dropped and the padding stays. True when a placeholder or "#" was found.
+bool splitFrameToken(
+    bool printfStyle, QString& fileName, QString& extension, unsigned char& padding, int fileCap)
+{
+    if (!extension.isEmpty() || fileName.endsWith(QStringLiteral(".file"), Qt::CaseInsensitive))
+        return false;
+    QString s = fileName;
+    const qsizetype lastPercent = s.lastIndexOf(u'%');
+    if (printfStyle && lastPercent >= 0 && s.lastIndexOf(u'd') > lastPercent) {
+        // "name.%04d.exr": the digits between "%" and "d" are the padding.
+        const qsizetype d = s.indexOf(u'd', lastPercent + 1);
+        bool isNumber = false;
+        const long long n = s.mid(lastPercent + 1, d - lastPercent - 1).toLongLong(&isNumber);
+        fileName = cut(s.left(lastPercent), fileCap);
+        extension = cut(s.mid(d + 1).remove(u'#'), ExtensionCap);
+        padding = isNumber ? clampPadding(n) : 1;
+        return true;
+    }
+    if (s.contains(u'#')) {
+        s.replace(QStringLiteral("[#"), QStringLiteral("#"));
+        s.replace(QStringLiteral("#]"), QStringLiteral("#"));
+        const qsizetype first = s.indexOf(u'#');
+        qsizetype end = first;
+        while (end < s.size() && s.at(end) == u'#')
+            ++end;
+        fileName = cut(s.left(first), fileCap);
+        padding = clampPadding(end - first);
+        extension = cut(s.mid(end), ExtensionCap);
+        return true;
+    }
+    if (s.contains(u'.')) {
+        // "name.0001.exr": a frame number written out, padding stays.
+        const qsizetype dot = s.lastIndexOf(u'.');
+        QString base = s.left(dot);
+        while (base.size() > 1 && base.back() >= u'0' && base.back() <= u'9')
+            base.chop(1);
+        fileName = cut(base, fileCap);
+        extension = cut(s.mid(dot), ExtensionCap);
+    }
+    return false;
+}
 
+/// A single-file output keeps its whole name; a per-frame output has its frame
+/// token and extension split off, unless the extension is a video's (or a
+/// frame-less V-Ray scene's), which makes it a single file after all.
+void splitFrameAndExtension(bool printfStyle, QString& fileName, QString& extension,
+    bool& singleFile, unsigned char& padding, int fileCap)
+{
     if (singleFile) {
         if (!extension.isEmpty()) {
-            fileName = cut(fileName + extension, FileCap);
+            fileName = cut(fileName + extension, fileCap);
             extension.clear();
         }
-    } else {
-        bool found = false;
-        if (extension.isEmpty()
-            && !fileName.endsWith(QStringLiteral(".file"), Qt::CaseInsensitive)) {
-            QString s = fileName;
-            const qsizetype lastPercent = s.lastIndexOf(u'%');
-            if (printfStyle && lastPercent >= 0 && s.lastIndexOf(u'd') > lastPercent) {
-                // "name.%04d.exr": the digits between "%" and "d" are the padding.
-                const qsizetype d = s.indexOf(u'd', lastPercent + 1);
-                bool isNumber = false;
-                const long long n
-                    = s.mid(lastPercent + 1, d - lastPercent - 1).toLongLong(&isNumber);
-                fileName = cut(s.left(lastPercent), FileCap);
-                extension = cut(s.mid(d + 1).remove(u'#'), ExtensionCap);
-                padding = isNumber ? clampPadding(n) : 1;
-                found = true;
-            } else if (s.contains(u'#')) {
-                s.replace(QStringLiteral("[#"), QStringLiteral("#"));
-                s.replace(QStringLiteral("#]"), QStringLiteral("#"));
-                const qsizetype first = s.indexOf(u'#');
-                qsizetype end = first;
-                while (end < s.size() && s.at(end) == u'#')
-                    ++end;
-                fileName = cut(s.left(first), FileCap);
-                padding = clampPadding(end - first);
-                extension = cut(s.mid(end), ExtensionCap);
-                found = true;
-            } else if (s.contains(u'.')) {
-                // "name.0001.exr": a frame number written out, padding stays.
-                const qsizetype dot = s.lastIndexOf(u'.');
-                QString base = s.left(dot);
-                while (base.size() > 1 && base.back() >= u'0' && base.back() <= u'9')
-                    base.chop(1);
-                fileName = cut(base, FileCap);
-                extension = cut(s.mid(dot), ExtensionCap);
-            }
-        }
-
-        const QString upper = extension.toUpper();
-        if (isSingleFileExtension(upper)
-            || (upper == QStringLiteral(".VRSCENE") && !found && e0.isEmpty())) {
-            fileName = cut(f0 + e0, FileCap);
-            extension.clear();
-            singleFile = true;
-        } else if (fileName.endsWith(extension, Qt::CaseInsensitive)) {
-            fileName.chop(extension.size());
-        }
+        return;
     }
+    const QString f0 = fileName;
+    const QString e0 = extension;
+    const bool found = splitFrameToken(printfStyle, fileName, extension, padding, fileCap);
+    const QString upper = extension.toUpper();
+    if (isSingleFileExtension(upper)
+        || (upper == QStringLiteral(".VRSCENE") && !found && e0.isEmpty())) {
+        fileName = cut(f0 + e0, fileCap);
+        extension.clear();
+        singleFile = true;
+    } else if (fileName.endsWith(extension, Qt::CaseInsensitive)) {
+        fileName.chop(extension.size());
+    }
+}
 
+/// Rewrites the directory relative to the scene folder, the scene database,
+/// and up to three parents of the scene folder, in that order, then tidies
+/// its separators and ends it with one.
+void makeDirRelative(
+    QString& dir, const QString& sceneName, const QString& databaseDir, QChar sep, int dirCap)
+{
     QString folder;
     if (!sceneName.isEmpty()) {
         folder = zkGetDirName(sceneName, sep.unicode());
-        relativeTo(dir, folder, QStringLiteral("<SceneFolder>"), DirCap);
+        relativeTo(dir, folder, QStringLiteral("<SceneFolder>"), dirCap);
     }
 
     if (!databaseDir.isEmpty()) {
         QString d = databaseDir;
-        if (!d.endsWith(u'/') && d.size() < DirCap)
+        if (!d.endsWith(u'/') && d.size() < dirCap)
             d.append(u'/');
         if (dir.startsWith(d, Qt::CaseSensitive))
             dir = cut(
-                dir.replace(databaseDir, QStringLiteral("<Database>"), Qt::CaseSensitive), DirCap);
+                dir.replace(databaseDir, QStringLiteral("<Database>"), Qt::CaseSensitive), dirCap);
     }
 
     if (!folder.isEmpty()) {
@@ -203,14 +223,34 @@ void template_splitImageFileInto_DirFileExt(const bool& printfStyle, _zkString<F
         for (int level = 0; level < 3; ++level) {
             folder = zkGetDirName(folder, sep.unicode());
             token += QStringLiteral("..") + sep;
-            relativeTo(dir, folder, token, DirCap);
+            relativeTo(dir, folder, token, dirCap);
         }
     }
 
     removeFourBackslashes(dir);
     collapseDoubled(dir);
-    if (!dir.isEmpty() && !dir.endsWith(sep) && dir.size() < DirCap)
+    if (!dir.isEmpty() && !dir.endsWith(sep) && dir.size() < dirCap)
         dir.append(sep);
+}
+
+} // namespace
+
+template <int DirCap, int FileCap>
+void template_splitImageFileInto_DirFileExt(const bool& printfStyle, _zkString<FileCap>& fileNameIO,
+    _zkString<DirCap>& dirIO, _zkString<25>& extensionIO, bool& singleFile, unsigned char& padding,
+    _zkString<DirCap> databaseDirIn, _zkString<DirCap> sceneNameIn)
+{
+    QString fileName = fileNameIO.toQString();
+    QString dir = dirIO.toQString();
+    QString extension = extensionIO.toQString();
+    QString databaseDir = databaseDirIn.toQString();
+    QString sceneName = sceneNameIn.toQString();
+
+    const QChar sep = unifySeparators(fileName, dir, sceneName, databaseDir);
+    cleanFileName(fileName, FileCap);
+    takeDirectory(fileName, dir, sep, DirCap);
+    splitFrameAndExtension(printfStyle, fileName, extension, singleFile, padding, FileCap);
+    makeDirRelative(dir, sceneName, databaseDir, sep, DirCap);
 
     fileNameIO.set(fileName);
     dirIO.set(dir);
