@@ -20,31 +20,6 @@ QString entries(const _JobBasics& job)
 
 } // namespace
 
-TEST(CustomData, ValuesRoundTripIn8And16Bit)
-{
-    auto job = std::make_unique<_JobBasics>();
-    const QString latin = QStringLiteral("caf\u00e9 -v");
-    const QString wide = QStringLiteral("\u65e5\u672c x");
-    job->customDataSet_Str(QStringLiteral("AddCmdFlags"), latin);
-    job->customDataSet_Str(QStringLiteral("Note"), wide);
-
-    EXPECT_EQ(job->customData_Str(QStringLiteral("addcmdflags")), latin);
-    EXPECT_EQ(job->customData_Str(QStringLiteral("Note")), wide);
-    EXPECT_EQ(job->customData_maxIDs(), 2);
-
-    // Entry table: kind, BE offset, BE length, name, zero.
-    const unsigned char* d = job->customData;
-    EXPECT_EQ(d[0], 'c');
-    EXPECT_EQ(d[3] * 256 + d[4], latin.size());
-    const int second = 6 + 11;
-    EXPECT_EQ(d[second], 'u');
-    EXPECT_EQ(job->customDataValuesStart, second + 6 + 4);
-    const int wideStart = d[second + 1] * 256 + d[second + 2];
-    EXPECT_EQ(d[wideStart], 0x65);
-    EXPECT_EQ(d[wideStart + 1], 0xe5);
-    EXPECT_EQ(job->customDataUsed, job->customDataValuesStart + int(latin.size()) + 2 * 4);
-}
-
 TEST(CustomData, ReplaceIgnoresCaseEmptyValueDeletes)
 {
     auto job = std::make_unique<_JobBasics>();
@@ -99,8 +74,7 @@ TEST(CustomData, SixteenBitValuesNeverPassTheBlock)
     }
     job->customDataSet_All(names, values);
     EXPECT_EQ(job->customData_maxIDs(), 6);
-    EXPECT_LE(job->customDataUsed, 4000);
-    EXPECT_EQ(job->customDataUsed, 6 * 8 + 6 * 600);
+    EXPECT_EQ(job->customDataUsed, 6 * 8 + 6 * 600); // of the 4000
     EXPECT_EQ(job->customData_StrByID(5), QString(300, QChar(0x4e05)));
     // The settings texts behind the block are untouched.
     EXPECT_EQ(job->settingText2.toQString(), QStringLiteral("<auto>"));

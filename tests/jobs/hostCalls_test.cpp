@@ -4,6 +4,8 @@
 #include "jobs/ZK_DataTypes_jobs0_Basics.h"
 #include "tools/host/hostRecords.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -62,6 +64,38 @@ TEST(HostCalls, ExportedJobMethodsWorkOnHostOwnedRecords)
     setCustom(large, QStringLiteral("AddCmdFlags"), QStringLiteral("-threads 8"));
     EXPECT_EQ(large->customData_Str(QStringLiteral("addcmdflags")), QStringLiteral("-threads 8"));
     std::free(large);
+}
+
+TEST(HostCalls, CustomDataStopsAtTheEndOfItsArea)
+{
+    zkHost::Plugin lib;
+    QString error;
+    ASSERT_TRUE(lib.open(QStringLiteral(ZK_PLUGIN_PATH), error)) << qPrintable(error);
+    const auto setAll
+        = function<void (*)(_JobSettingsScene*, const QStringList&, const QStringList&)>(
+            lib, "_ZN3zkJ17_JobSettingsScene17customDataSet_AllERK5QListI7QStringES5_");
+    ASSERT_TRUE(setAll);
+
+    // Counted as 3 + 58 + 5 characters, 60 entries pass the admission limit
+    // of 3990; stored, each takes 9 table bytes and 58 value bytes, and the
+    // 60th would end at byte 4020 of the 4000.
+    QStringList names, values;
+    for (int i = 0; i < 60; ++i) {
+        names << QStringLiteral("k%1").arg(i, 2, 10, QChar(u'0'));
+        values << QString(58, QChar(0xC0 + i));
+    }
+    auto* job = static_cast<_JobBasics_largePath*>(std::calloc(1, sizeof(_JobBasics_largePath)));
+    ASSERT_NE(job, nullptr);
+    new (job) _JobBasics_largePath();
+    job->settingText1.set(QStringLiteral("after the block"));
+    setAll(job, names, values);
+
+    EXPECT_EQ(job->customData_maxIDs(), 59);
+    EXPECT_LE(job->customDataUsed, 4000);
+    EXPECT_EQ(job->customData_Str(QStringLiteral("k58")), values[58]);
+    EXPECT_FALSE(job->customData_Contains(QStringLiteral("k59")));
+    EXPECT_EQ(job->settingText1.toQString(), QStringLiteral("after the block"));
+    std::free(job);
 }
 
 } // namespace
