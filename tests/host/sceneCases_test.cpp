@@ -25,6 +25,9 @@ const QString CasesDir = QStringLiteral(ZK_SOURCE_DIR "/tests/cases");
 const QStringList SceneSuffixes
     = { QStringLiteral(".hip"), QStringLiteral(".hipnc"), QStringLiteral(".hiplc") };
 const QString ExpectSuffix = QStringLiteral(".expect.json");
+/// What every output driver's job carries as "zkSubmitterPluginVersion";
+/// cases write @PLUGINVERSION@, so a new version is one edit here.
+const QString PluginVersion = QStringLiteral(" 8.4.00");
 
 struct SceneCase
 {
@@ -72,7 +75,8 @@ std::string show(const QJsonValue& v)
 
 /// Faults of the case file that no comparison would show: an unknown top-level
 /// key (a misspelt "jobs" would check nothing), a value of another type,
-/// arguments that are not texts, entries for jobs beyond the count. A missing
+/// arguments that are not texts, entries for jobs beyond the count, a strict
+/// case that does not list every job. A missing
 /// "result", "arrayText" or "jobCount", or a job key that jobs do not have,
 /// fails its comparison.
 QStringList caseErrors(const QJsonObject& expect)
@@ -81,7 +85,7 @@ QStringList caseErrors(const QJsonObject& expect)
     const QJsonObject top { { QStringLiteral("arguments"), QJsonArray() },
         { QStringLiteral("environment"), QJsonObject() }, { QStringLiteral("result"), 0 },
         { QStringLiteral("arrayText"), QString() }, { QStringLiteral("jobCount"), 0 },
-        { QStringLiteral("jobs"), QJsonArray() } };
+        { QStringLiteral("jobs"), QJsonArray() }, { QStringLiteral("strict"), false } };
     for (auto it = expect.begin(); it != expect.end(); ++it) {
         if (!top.contains(it.key()))
             errors << QStringLiteral("unknown key \"%1\"").arg(it.key());
@@ -93,9 +97,12 @@ QStringList caseErrors(const QJsonObject& expect)
         texts.append(v);
     if (!std::all_of(texts.begin(), texts.end(), [](const QJsonValue& v) { return v.isString(); }))
         errors << QStringLiteral("arguments and environment values must be strings");
-    if (expect.value(QStringLiteral("jobs")).toArray().size()
-        > expect.value(QStringLiteral("jobCount")).toInt())
+    const qsizetype listed = expect.value(QStringLiteral("jobs")).toArray().size();
+    const int count = expect.value(QStringLiteral("jobCount")).toInt();
+    if (listed > count)
         errors << QStringLiteral("more job entries than \"jobCount\"");
+    if (expect.value(QStringLiteral("strict")).toBool() && listed != count)
+        errors << QStringLiteral("a strict case lists every job");
     return errors;
 }
 
@@ -120,6 +127,25 @@ void expectField(const QString& where, const QJsonValue& got, const QJsonValue& 
                       << show(expected);
 }
 
+/// The listed keys of \p want, objects key by key; when \p strict, every key
+/// of \p got too, so a key nobody listed fails as "expected no such key".
+void expectObject(
+    const QString& where, const QJsonObject& got, const QJsonObject& want, bool strict)
+{
+    QStringList keys = want.keys();
+    for (const QString& key : got.keys()) {
+        if (strict && !want.contains(key))
+            keys << key;
+    }
+    for (const QString& key : keys) {
+        if (want.value(key).isObject() && got.value(key).isObject())
+            expectObject(
+                where + key + u'.', got.value(key).toObject(), want.value(key).toObject(), strict);
+        else
+            expectField(where + key, got.value(key), want.value(key));
+    }
+}
+
 TEST_P(SceneCases, MatchesItsExpectations)
 {
     const SceneCase& c = GetParam();
@@ -128,10 +154,14 @@ TEST_P(SceneCases, MatchesItsExpectations)
     QFile file(QDir(CasesDir).filePath(name + ExpectSuffix));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << c.name << ": a scene without expectations";
     QJsonParseError parseError;
-    // @DIR@ is the scene's directory with a trailing "/", @SCENE@ its path.
+    // @DIR@ is the scene's directory with a trailing "/", @ROOT@ the
+    // repository's (the cases' directory two up), @SCENE@ the scene's path.
     QByteArray text = file.readAll();
-    for (const auto& [token, path] : { std::pair { "@SCENE@", c.scene },
-             std::pair { "@DIR@", QFileInfo(c.scene).absolutePath() + u'/' } }) {
+    const QString dir = QFileInfo(c.scene).absolutePath();
+    for (const auto& [token, path] :
+        { std::pair { "@SCENE@", c.scene }, std::pair { "@DIR@", dir + u'/' },
+            std::pair { "@ROOT@", QDir::cleanPath(dir + QStringLiteral("/../..")) + u'/' },
+            std::pair { "@PLUGINVERSION@", PluginVersion } }) {
         const std::string quoted = show(path);
         text.replace(token, QByteArray::fromStdString(quoted.substr(1, quoted.size() - 2)));
     }
@@ -169,22 +199,9 @@ TEST_P(SceneCases, MatchesItsExpectations)
     expectField(name + QStringLiteral(" jobCount"), int(jobs.size()),
         expect.value(QStringLiteral("jobCount")));
     const QJsonArray expectedJobs = expect.value(QStringLiteral("jobs")).toArray();
-    for (qsizetype i = 0; i < expectedJobs.size() && i < jobs.size(); ++i) {
-        const QJsonObject got = jobs[i].toObject();
-        const QJsonObject want = expectedJobs[i].toObject();
-        const QString where = QStringLiteral("%1 job %2 ").arg(name).arg(i);
-        for (auto it = want.begin(); it != want.end(); ++it) {
-            if (it.key() != QLatin1String("renderApp")) {
-                expectField(where + it.key(), got.value(it.key()), it.value());
-                continue;
-            }
-            const QJsonObject app = got.value(it.key()).toObject();
-            const QJsonObject wantApp = it.value().toObject();
-            for (auto a = wantApp.begin(); a != wantApp.end(); ++a)
-                expectField(
-                    where + QStringLiteral("renderApp.") + a.key(), app.value(a.key()), a.value());
-        }
-    }
+    for (qsizetype i = 0; i < expectedJobs.size() && i < jobs.size(); ++i)
+        expectObject(QStringLiteral("%1 job %2 ").arg(name).arg(i), jobs[i].toObject(),
+            expectedJobs[i].toObject(), expect.value(QStringLiteral("strict")).toBool());
     EXPECT_TRUE(second == first) << c.name << ": a second load gives other jobs";
 }
 
