@@ -3,6 +3,7 @@
 #pragma once
 
 #include "jobs/ZK_DataTypes_jobs0_Basics.h"
+#include "plugin/loadResult.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -112,19 +113,15 @@ ZK_NOT_FUZZED inline void checkJob(const zkJ::_JobBasics_largePath& j, int job)
     checkText(j.settingText6, "settingText6", job);
 }
 
-/// Codes a load may return; on a valid array and a readable scene 3, 5 and 6
-/// (an exception escaped) are faults as well.
-ZK_NOT_FUZZED inline bool isDocumentedResult(int result)
-{
-    return result == 1 || result == 3 || result == 5 || result == 6 || result == 7 || result == 25;
-}
-
 /// Everything the host reads after a load of a readable scene into a valid array.
 ZK_NOT_FUZZED inline void checkLoad(int result, const zkJ::_JobBasicsArray& jobs)
 {
-    if (!isDocumentedResult(result))
+    // No node reader ends a load with a code of its own, so every result is
+    // one of LoadResults; on a valid array and a readable scene a refusal or
+    // an escaped exception is a fault as well.
+    if (!isLoadResult(result))
         fail("result code", -1);
-    if (result == 3 || result == 5 || result == 6)
+    if (result == LoadCannotOpen || result == LoadUnsupportedArray || result == LoadInternalError)
         fail("refused or threw on a readable scene", -1);
     if (jobs.structureID != zkJ::JobStructureID || jobs.structureVersion != zkJ::JobStructureVersion
         || jobs.recordSize != sizeof(zkJ::_JobBasics_largePath))
@@ -134,7 +131,7 @@ ZK_NOT_FUZZED inline void checkLoad(int result, const zkJ::_JobBasicsArray& jobs
         fail("count within the allocated records", -1);
     if (jobs.allocated > 0 && !jobs.records)
         fail("records", -1);
-    if (result == 25 && jobs.count != 0)
+    if (result == LoadOnlyEmptyDrivers && jobs.count != 0)
         fail("result 25 with jobs", -1);
     for (int i = 0; i < jobs.count; ++i)
         checkJob(jobs.records[i], i);

@@ -1,6 +1,6 @@
 // hipjobs: loads the scene parser plugin the way the render-queue manager
 // does (dlopen, entry points resolved by name, host-built records) and prints
-// the jobs of one scene, as a table or as JSON.
+// the jobs of scenes, as tables, JSON Lines or a summary.
 //
 // The job array is built from its documented binary layout (tools/host), not
 // with the plugin's constructor: the tool must see exactly what a host sees,
@@ -8,6 +8,11 @@
 // a quietly consistent pair. The job methods the host may call on records
 // (conversion, identifiers, display name, job variables) come from the plugin
 // library the tool is linked with; the entry points always through dlsym.
+//
+// One library load serves every scene of a run, as in the host.
+#include "plugin/loadResult.h"
+#include "tools/hipjobs/sceneList.h"
+#include "tools/hipjobs/summary.h"
 #include "tools/host/hostRecords.h"
 #include "tools/host/jobJson.h"
 
@@ -22,10 +27,14 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <optional>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 namespace {
 
 using namespace zkHost;
+using namespace hipjobs;
 
 // Exit statuses. A load result r other than 1 exits with ExitResultBase + r,
 // so every result code keeps its own status; codes outside 0..245 share 255.
@@ -41,22 +50,72 @@ const char* const PluginFileName = "libzkSceneParserHoudini.so";
 
 int exitStatusForResult(int result)
 {
-    if (result == 1)
+    if (result == LoadOk)
         return ExitOk;
     if (result < 0 || result > MaxMappedResult)
         return ExitResultOutOfRange;
     return ExitResultBase + result;
 }
 
-void printError(const QString& text)
-{
-    const QByteArray line = QStringLiteral("hipjobs: %1\n").arg(text).toLocal8Bit();
-    std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
-}
-
 void printOut(const QByteArray& bytes)
 {
     std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
+}
+
+/// One line on a terminal's stderr that says how far a run of several scenes
+/// is. It is taken away before anything else is written, so that neither the
+/// output on the same terminal nor an error line is mixed with it.
+class Progress
+{
+public:
+    void enable(int total)
+    {
+        total_ = total;
+        enabled_ = total > 1 && isatty(STDERR_FILENO);
+    }
+
+    void show(int done, const QString& scene)
+    {
+        if (!enabled_)
+            return;
+        std::fflush(stdout);
+        QString line = QStringLiteral("[%1/%2] ").arg(done).arg(total_);
+        const int room = std::max(10, terminalWidth() - 1 - int(line.size()));
+        line += scene.size() > room ? QStringLiteral("...") + scene.right(room - 3) : scene;
+        const QByteArray bytes = "\r\033[K" + line.toLocal8Bit();
+        std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stderr);
+        shown_ = true;
+    }
+
+    void clear()
+    {
+        if (!shown_)
+            return;
+        std::fputs("\r\033[K", stderr);
+        shown_ = false;
+    }
+
+private:
+    static int terminalWidth()
+    {
+        winsize size {};
+        if (ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0)
+            return size.ws_col;
+        return 80;
+    }
+
+    int total_ = 0;
+    bool enabled_ = false;
+    bool shown_ = false;
+};
+
+Progress progress;
+
+void printError(const QString& text)
+{
+    progress.clear();
+    const QByteArray line = QStringLiteral("hipjobs: %1\n").arg(text).toLocal8Bit();
+    std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
 }
 
 // ---- output ---------------------------------------------------------------
@@ -195,15 +254,16 @@ void printTable(const HostJobArray& jobs, int result, const QString& scene)
     printOut(out.toUtf8());
 }
 
-void printJson(const HostJobArray& jobs, int result, const QString& scene, bool withVars)
+/// JSON Lines: one compact object per line, so that a run over many scenes
+/// can be read line by line.
+void printJsonLine(const QJsonObject& o)
 {
-    printOut(
-        QJsonDocument(loadJson(jobs, result, scene, withVars)).toJson(QJsonDocument::Indented));
+    printOut(QJsonDocument(o).toJson(QJsonDocument::Compact) + '\n');
 }
 
-void printVars(const HostJobArray& jobs)
+void printVars(const HostJobArray& jobs, const QString& scene)
 {
-    QString out;
+    QString out = QStringLiteral("scene %1\n").arg(scene);
     for (int i = 0; i < jobs.readableCount(); ++i) {
         const std::unique_ptr<zkJ::_JobBasics> compact = compactJob(jobs.array->records[i]);
         out += QStringLiteral("job %1 %2\n").arg(i).arg(compact->IDstr());
@@ -234,7 +294,7 @@ int showInfo(const Plugin& plugin, bool json)
             { QStringLiteral("infoVersion"), info->infoVersion } };
         for (const auto& f : fields)
             o[f.first] = f.second;
-        printOut(QJsonDocument(o).toJson(QJsonDocument::Indented));
+        printJsonLine(o);
     } else {
         QString out;
         for (const auto& f : fields)
@@ -254,47 +314,88 @@ int showInfo(const Plugin& plugin, bool json)
 
 QString helpTail()
 {
+    QString codes;
+    for (const LoadResult r : LoadResults) {
+        if (r != LoadOk)
+            codes += QStringLiteral("             %1 %2\n")
+                         .arg(ExitResultBase + r)
+                         .arg(QLatin1String(loadResultText(r)));
+    }
     return QStringLiteral(
-        "\nExit status:\n"
-        "  0          the scene loaded (plugin result 1)\n"
-        "  2          usage error\n"
-        "  3          the plugin could not be loaded or lacks an entry point\n"
-        "  4          --info: the plugin rejected the information record\n"
-        "  10 + r     plugin result r for r in 0..245, r != 1:\n"
-        "             13 cannot open scene file, 15 job array layout not supported,\n"
-        "             16 internal error, 17 no job record, 35 drivers without jobs\n"
-        "  255        any other plugin result\n");
+               "\nExit status (with several scenes: 0 when every scene loaded, otherwise\n"
+               "the status of the first scene that did not):\n"
+               "  0          the scene loaded (plugin result 1)\n"
+               "  2          usage error\n"
+               "  3          the plugin could not be loaded or lacks an entry point\n"
+               "  4          --info: the plugin rejected the information record\n"
+               "  10 + r     plugin result r for r in 0..245, r != 1:\n")
+        + codes
+        + QStringLiteral("             any other: a node reader's own code\n"
+                         "  255        any other plugin result\n");
 }
 
-} // namespace
-
-int main(int argc, char* argv[])
+struct Options
 {
-    QCoreApplication app(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("hipjobs"));
+    bool json = false;
+    bool vars = false;
+    bool info = false;
+    bool summary = false;
+    bool quiet = false;
+    bool recurse = true;
+    bool version = false;
+    QString pluginPath;
+    QStringList paths;
+    QStringList submitterArgs;
+};
 
+/// The installed plugin folder first, then the build tree's library folder.
+QString defaultPluginPath()
+{
+    const QDir bin(QCoreApplication::applicationDirPath());
+    const QString installed = bin.filePath(
+        QStringLiteral("../" ZK_PLUGIN_INSTALL_DIR "/%1").arg(QLatin1String(PluginFileName)));
+    if (QFileInfo::exists(installed))
+        return QDir::cleanPath(installed);
+    return QDir::cleanPath(
+        bin.filePath(QStringLiteral("../lib/%1").arg(QLatin1String(PluginFileName))));
+}
+
+/// The options, or the exit status when the command line is already answered
+/// (help) or wrong.
+std::optional<int> parseOptions(Options& options)
+{
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Loads a Houdini scene through the scene parser plugin, as the "
-                       "render-queue manager does, and prints its jobs."));
+        QStringLiteral("Loads Houdini scenes through the scene parser plugin, as the "
+                       "render-queue manager does, and prints their jobs."));
     const QCommandLineOption helpOption = parser.addHelpOption();
-    const QCommandLineOption jsonOption(
-        QStringLiteral("json"), QStringLiteral("Print every job field as JSON."));
-    const QCommandLineOption infoOption(
-        QStringLiteral("info"), QStringLiteral("Print the plugin information."));
-    const QCommandLineOption pluginOption(QStringLiteral("plugin"),
-        QStringLiteral("The plugin library to load (default: ../lib/%1 beside this program).")
-            .arg(QLatin1String(PluginFileName)),
-        QStringLiteral("path"));
+    const QCommandLineOption versionOption(QStringLiteral("version"),
+        QStringLiteral("Print the version of hipjobs and of the plugin."));
+    const QCommandLineOption jsonOption(QStringLiteral("json"),
+        QStringLiteral("Print every job field as JSON, one object per scene and line."));
     const QCommandLineOption varsOption(QStringLiteral("vars"),
         QStringLiteral("Print each job's exported job variables, one name and value per line "
                        "(with --json: a \"vars\" array in each job)."));
-    parser.addOption(jsonOption);
-    parser.addOption(varsOption);
-    parser.addOption(infoOption);
-    parser.addOption(pluginOption);
-    parser.addPositionalArgument(QStringLiteral("scene"), QStringLiteral("The scene file to load."),
-        QStringLiteral("SCENE"));
+    const QCommandLineOption summaryOption(QStringLiteral("summary"),
+        QStringLiteral("Print one line per scene (result, jobs, frames, takes, wedge variants, "
+                       "waits, renderers) and a total; with --json, one summary object per "
+                       "scene and a total object."));
+    const QCommandLineOption noRecurseOption(QStringLiteral("no-recurse"),
+        QStringLiteral("Search a folder given as PATH without its subfolders."));
+    const QCommandLineOption quietOption({ QStringLiteral("q"), QStringLiteral("quiet") },
+        QStringLiteral("No progress line on a terminal."));
+    const QCommandLineOption infoOption(
+        QStringLiteral("info"), QStringLiteral("Print the plugin information."));
+    const QCommandLineOption pluginOption(QStringLiteral("plugin"),
+        QStringLiteral("The plugin library to load (default: ../" ZK_PLUGIN_INSTALL_DIR
+                       "/%1 beside this program, else ../lib/%1).")
+            .arg(QLatin1String(PluginFileName)),
+        QStringLiteral("path"));
+    parser.addOptions({ versionOption, jsonOption, varsOption, summaryOption, noRecurseOption,
+        quietOption, infoOption, pluginOption });
+    parser.addPositionalArgument(QStringLiteral("paths"),
+        QStringLiteral("Scene files, and folders searched for *.hip, *.hipnc and *.hiplc."),
+        QStringLiteral("PATH..."));
     parser.addPositionalArgument(QStringLiteral("submitter-args"),
         QStringLiteral("Arguments handed to the plugin as the submitter's command line."),
         QStringLiteral("[-- SUBMITTER-ARGS...]"));
@@ -307,63 +408,138 @@ int main(int argc, char* argv[])
         printOut((parser.helpText() + helpTail()).toUtf8());
         return ExitOk;
     }
+    options.json = parser.isSet(jsonOption);
+    options.vars = parser.isSet(varsOption);
+    options.info = parser.isSet(infoOption);
+    options.summary = parser.isSet(summaryOption);
+    options.quiet = parser.isSet(quietOption);
+    options.recurse = !parser.isSet(noRecurseOption);
+    options.version = parser.isSet(versionOption);
+    options.pluginPath
+        = parser.isSet(pluginOption) ? parser.value(pluginOption) : defaultPluginPath();
 
-    // Everything after "--" belongs to the submitter; the scene stands before it.
+    // Everything after "--" belongs to the submitter; the paths stand before it.
     const QStringList raw = QCoreApplication::arguments();
     const qsizetype separator = raw.indexOf(QStringLiteral("--"));
-    const QStringList submitterArgs = separator < 0 ? QStringList() : raw.mid(separator + 1);
+    options.submitterArgs = separator < 0 ? QStringList() : raw.mid(separator + 1);
     const QStringList positional = parser.positionalArguments();
-    const QStringList sceneArgs = positional.mid(0, positional.size() - submitterArgs.size());
-    const bool wantInfo = parser.isSet(infoOption);
-    if (sceneArgs.size() > 1 || (sceneArgs.isEmpty() && !wantInfo)) {
-        printError(sceneArgs.isEmpty() ? QStringLiteral("no scene file given (see --help)")
-                                       : QStringLiteral("more than one scene file given; put "
-                                                        "submitter arguments after \"--\""));
+    options.paths = positional.mid(0, positional.size() - options.submitterArgs.size());
+    if (options.paths.isEmpty() && !options.info && !options.version) {
+        printError(QStringLiteral("no scene file given (see --help)"));
         return ExitUsage;
     }
+    return std::nullopt;
+}
 
-    const QString pluginPath = parser.isSet(pluginOption)
-        ? parser.value(pluginOption)
-        : QDir(QCoreApplication::applicationDirPath())
-              .filePath(QStringLiteral("../lib/%1").arg(QLatin1String(PluginFileName)));
-    Plugin plugin;
-    QString error;
-    if (!plugin.open(pluginPath, error)) {
-        printError(error);
-        return ExitPluginLoad;
-    }
+QString pluginVersion(const Plugin& plugin)
+{
+    auto info = std::make_unique<zkP::_dataPARS_PluginInfo>();
+    std::memset(static_cast<void*>(info.get()), 0, sizeof(*info));
+    info->structureID = zkP::PluginInfoStructureID;
+    if (plugin.info(info.get()) != InfoOk)
+        return QStringLiteral("unknown (the plugin rejected the information record)");
+    return text(info->pluginVersion);
+}
 
-    const bool json = parser.isSet(jsonOption);
-    if (wantInfo) {
-        const int status = showInfo(plugin, json);
-        if (status != ExitOk || sceneArgs.isEmpty())
-            return status;
-    }
-
-    const QString scene = sceneArgs.first();
-    const QString absoluteScene = QFileInfo(scene).absoluteFilePath();
-    if (absoluteScene.size() > SceneNameCapacity) {
-        printError(QStringLiteral("scene path longer than %1 characters: %2")
-                       .arg(SceneNameCapacity)
-                       .arg(scene));
-        return ExitUsage;
-    }
-    SceneLoad load(absoluteScene, submitterArgs, QByteArrayLiteral("hipjobs"));
+/// Loads one scene and prints it as the options say; the plugin's result.
+int runScene(const Plugin& plugin, const Options& options, const QString& scene,
+    QList<SceneSummary>& summaries)
+{
+    SceneLoad load(scene, options.submitterArgs, QByteArrayLiteral("hipjobs"));
     const HostJobArray& jobs = load.jobs;
     if (!jobs.array) {
         printError(QStringLiteral("out of memory"));
-        return ExitResultOutOfRange;
+        return -1;
+    }
+    const int result = plugin.load(&load.record);
+    progress.clear();
+    if (options.summary) {
+        summaries.append(summarize(jobs, result, scene));
+        if (options.json)
+            printJsonLine(summaryJson(summaries.last()));
+    } else if (options.json) {
+        printJsonLine(loadJson(jobs, result, scene, options.vars));
+    } else if (options.vars) {
+        printVars(jobs, scene);
+    } else {
+        printTable(jobs, result, scene);
+    }
+    if (result != LoadOk)
+        printError(QStringLiteral("%1: %2").arg(resultText(result), scene));
+    return result;
+}
+
+int run(const Options& options)
+{
+    const QStringList scenes = collectScenes(options.paths, options.recurse);
+    if (scenes.isEmpty() && !options.paths.isEmpty()) {
+        printError(QStringLiteral("no scene files in %1").arg(options.paths.join(u' ')));
+        return ExitUsage;
+    }
+    for (const QString& scene : scenes) {
+        if (scene.size() > SceneNameCapacity) {
+            printError(QStringLiteral("scene path longer than %1 characters: %2")
+                           .arg(SceneNameCapacity)
+                           .arg(scene));
+            return ExitUsage;
+        }
     }
 
-    const int result = plugin.load(&load.record);
-    const bool vars = parser.isSet(varsOption);
-    if (json)
-        printJson(jobs, result, absoluteScene, vars);
-    else if (vars)
-        printVars(jobs);
-    else
-        printTable(jobs, result, absoluteScene);
-    if (result != 1)
-        printError(QStringLiteral("%1: %2").arg(resultText(result), scene));
-    return exitStatusForResult(result);
+    Plugin plugin;
+    QString error;
+    if (options.version)
+        printOut(QStringLiteral("hipjobs %1\n").arg(QLatin1String(ZK_VERSION)).toUtf8());
+    if (!plugin.open(options.pluginPath, error)) {
+        printError(error);
+        return ExitPluginLoad;
+    }
+    if (options.version) {
+        printOut(QStringLiteral("plugin %1 (%2)\n")
+                     .arg(pluginVersion(plugin), QFileInfo(options.pluginPath).absoluteFilePath())
+                     .toUtf8());
+        if (scenes.isEmpty() && !options.info)
+            return ExitOk;
+    }
+    if (options.info) {
+        const int status = showInfo(plugin, options.json);
+        if (status != ExitOk || scenes.isEmpty())
+            return status;
+    }
+
+    if (!options.quiet)
+        progress.enable(int(scenes.size()));
+    int status = ExitOk;
+    QList<SceneSummary> summaries;
+    for (int i = 0; i < scenes.size(); ++i) {
+        progress.show(i, scenes[i]);
+        const int result = runScene(plugin, options, scenes[i], summaries);
+        const int sceneStatus = result < 0 ? ExitResultOutOfRange : exitStatusForResult(result);
+        if (status == ExitOk)
+            status = sceneStatus;
+        if (!options.summary && !options.json && i + 1 < scenes.size())
+            printOut("\n");
+    }
+    progress.clear();
+    if (options.summary) {
+        TotalSummary total;
+        for (const SceneSummary& s : summaries)
+            total.add(s);
+        if (options.json)
+            printJsonLine(totalJson(total));
+        else
+            printOut(summaryTable(summaries, total).toUtf8());
+    }
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("hipjobs"));
+    Options options;
+    if (const std::optional<int> status = parseOptions(options))
+        return *status;
+    return run(options);
 }

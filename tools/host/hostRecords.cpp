@@ -1,5 +1,7 @@
 #include "hostRecords.h"
 
+#include "plugin/loadResult.h"
+
 #include <QFile>
 
 #include <algorithm>
@@ -78,22 +80,8 @@ SceneLoad::SceneLoad(const QString& scene, const QStringList& arguments, const Q
 
 QString resultText(int result)
 {
-    switch (result) {
-    case 1:
-        return QStringLiteral("success");
-    case 3:
-        return QStringLiteral("cannot open scene file");
-    case 5:
-        return QStringLiteral("job array layout version not supported");
-    case 6:
-        return QStringLiteral("internal error in the plugin");
-    case 7:
-        return QStringLiteral("job array could not give a job record");
-    case 25:
-        return QStringLiteral("output drivers found, none of them makes a job");
-    default:
-        return QStringLiteral("a node reader stopped the load with code %1").arg(result);
-    }
+    const QString words = QString::fromLatin1(loadResultText(result));
+    return isLoadResult(result) ? words : QStringLiteral("%1 with code %2").arg(words).arg(result);
 }
 
 } // namespace zkHost
