@@ -1,9 +1,8 @@
 // One job per take and per wedge variant. Copies are appended to the host's
 // job array like every other job, so its record cap ends a runaway fan-out.
 #include "completion.h"
+#include "plugin/elements/elementSection.h"
 #include "plugin/jobCopy.h"
-#include "plugin/parserState.h"
-#include "plugin/readers/elementSection.h"
 
 #include <QHash>
 
@@ -88,8 +87,10 @@ private:
 /// Every job renders the scene's first take unless its driver names one of
 /// its own; the jobs of drivers without a take of their own are copied once
 /// per further take.
-LoadResult fanOutTakes(zkJ::_JobBasicsArray& jobs, const QStringList& takes)
+LoadResult fanOutTakes(Scene& scene)
 {
+    zkJ::_JobBasicsArray& jobs = scene.jobs;
+    const QStringList& takes = scene.takes;
     const int n = jobs.count;
     const TakeList takeList(takes);
     std::vector<int> everyTake; // jobs whose drivers name no take the scene has
@@ -97,7 +98,7 @@ LoadResult fanOutTakes(zkJ::_JobBasicsArray& jobs, const QStringList& takes)
         zkJ::_JobBasics_largePath* job = jobs.at(j);
         if (!job)
             return LoadNoJobRecord;
-        QString& driverTake = nodeActiveTakes[job->layer.toQString()];
+        QString& driverTake = scene.noteOf(j).take;
         job->channel.set(takes.first());
         if (!driverTake.isEmpty()) {
             if (const QString* take = takeList.find(driverTake))
@@ -129,8 +130,10 @@ LoadResult fanOutTakes(zkJ::_JobBasicsArray& jobs, const QStringList& takes)
 /// Copies the jobs of wedged drivers once per variant. A copy that waits
 /// waits for the copy of its export made for the same wedge and variant, so
 /// each variant renders the scene files written for it.
-LoadResult fanOutWedges(zkJ::_JobBasicsArray& jobs)
+LoadResult fanOutWedges(Scene& scene)
 {
+    zkJ::_JobBasicsArray& jobs = scene.jobs;
+    QList<WedgeNode>& wedges = scene.wedges;
     const int m = jobs.count;
     int counter = m;
     for (int j = 0; j < m; ++j) {
@@ -160,7 +163,7 @@ LoadResult fanOutWedges(zkJ::_JobBasicsArray& jobs)
             return LoadNoJobRecord;
         const auto driven = wedgesOf.constFind(job->layer.toQString());
         for (const int w : driven == wedgesOf.cend() ? std::vector<int>() : *driven) {
-            _wedgeNode& wedge = wedges[w];
+            WedgeNode& wedge = wedges[w];
             const int total = wedge.totalWedges();
             for (int k = 0; k < total; ++k) {
                 zkJ::_JobBasics_largePath* copy = appendCopy(jobs, j);
@@ -198,19 +201,19 @@ LoadResult fanOutWedges(zkJ::_JobBasicsArray& jobs)
 
 } // namespace
 
-LoadResult fanOutJobs(const LoadContext& ctx, const ScanResult& scan)
+LoadResult fanOutJobs(Scene& scene)
 {
-    zkJ::_JobBasicsArray& jobs = *ctx.data->jobs;
+    zkJ::_JobBasicsArray& jobs = scene.jobs;
     // With the take flag but no take in the scene there is no take to name.
-    if ((scan.takes.size() > 1 || scan.takeFound) && !scan.takes.isEmpty()) {
-        const LoadResult result = fanOutTakes(jobs, scan.takes);
+    if ((scene.takes.size() > 1 || scene.takeFound) && !scene.takes.isEmpty()) {
+        const LoadResult result = fanOutTakes(scene);
         if (result != LoadOk)
             return result;
     }
-    if (emptyNodesfound && jobs.count == 0)
+    if (scene.emptyDriverFound && jobs.count == 0)
         return LoadOnlyEmptyDrivers;
-    if (!wedges.isEmpty())
-        return fanOutWedges(jobs);
+    if (!scene.wedges.isEmpty())
+        return fanOutWedges(scene);
     for (int i = 0; i < jobs.count; ++i) {
         zkJ::_JobBasics_largePath* job = jobs.at(i);
         if (!job)
@@ -218,27 +221,4 @@ LoadResult fanOutJobs(const LoadContext& ctx, const ScanResult& scan)
         removeWedgeTokens(*job);
     }
     return LoadOk;
-}
-
-LoadResult finishLoad(const LoadContext& ctx, const ScanResult& scan)
-{
-    if (scan.result != LoadOk)
-        return scan.result;
-    const LoadResult result = completeJobs(ctx, scan);
-    if (result != LoadOk)
-        return result;
-    return fanOutJobs(ctx, scan);
-}
-
-LoadResult loadLines(const LoadContext& ctx, LineSource& in)
-{
-    resetParserState();
-    const ScanResult scan = scanScene(ctx, in);
-    const LoadResult result = finishLoad(ctx, scan);
-    // A refused getNewJob leaves count one past the records there are (result
-    // 7); the host reads count records, so it must not be told of that one.
-    zkJ::_JobBasicsArray& jobs = *ctx.data->jobs;
-    if (jobs.count > jobs.allocated)
-        jobs.count = jobs.allocated;
-    return result;
 }

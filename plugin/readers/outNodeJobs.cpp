@@ -67,28 +67,30 @@ void composeAovFiles(Driver& d)
 
 /// The AOV files go into the job's channel slots in AOV order, expanded like
 /// the image path; each is used once (an export pair's render job gets them).
-void writeAovChannels(Driver& d, zkJ::_JobBasics_largePath& job, const _zkString<500>& scene)
+void writeAovChannels(Driver& d, zkJ::_JobBasics_largePath& job)
 {
     int slot = 0;
     for (QString& file : d.aovFile) {
         if (file.isEmpty())
             continue;
-        job.channels[slot++].fileName.set(replaceHoudiniVariables(file, &job, hVariables, scene));
+        job.channels[slot++].fileName.set(
+            replaceHoudiniVariables(file, &job, d.scene.variables, d.scene.sceneFile));
         file.clear();
     }
 }
 
 /// The first LOP entry that lists the driver among its render nodes, or null.
-const _LOPNode* linkedLop(const Driver& d)
+const LopNode* linkedLop(const Driver& d)
 {
-    const int index = LOPList.findLOPIndexByRenderNode(d.path);
-    return index < 0 ? nullptr : &LOPList.list.at(index);
+    const LopList& lops = d.scene.lops;
+    const int index = lops.findLOPIndexByRenderNode(d.path);
+    return index < 0 ? nullptr : &lops.list.at(index);
 }
 
 QString renderRendererName(const Driver& d, zkJ::_JobBasics_largePath& job)
 {
     if (d.isUSD) {
-        const _LOPNode* lop = linkedLop(d);
+        const LopNode* lop = linkedLop(d);
         return lop ? lop->rendererName_render() : QString();
     }
     if (d.isArnold)
@@ -118,7 +120,7 @@ void setExportRenderer(Driver& d, zkJ::_JobBasics_largePath& job, zkJ::_JobBasic
 {
     _zkString<25>& name = job.renderApp.rendererName;
     if (d.isUSD) {
-        const _LOPNode* lop = linkedLop(d);
+        const LopNode* lop = linkedLop(d);
         name.set(lop ? lop->rendererName_create() : QStringLiteral("createUSD"));
         if (name.indexOf(_zkString<25>("redshift"), 0) >= 0 && d.exportPath.endsWith(".rs"_L1)) {
             d.prependPicture = true;
@@ -146,7 +148,7 @@ void setExportRenderer(Driver& d, zkJ::_JobBasics_largePath& job, zkJ::_JobBasic
 }
 
 /// The stand-alone renderer that renders an export's files.
-const QString& renderApplication(const Driver& d, bool exportIsSingleFile, const _LOPNode* lop)
+const QString& renderApplication(const Driver& d, bool exportIsSingleFile, const LopNode* lop)
 {
     if (d.isUSD) {
         if (lop && lop->renderer == "arnold"_L1)
@@ -166,16 +168,20 @@ const QString& renderApplication(const Driver& d, bool exportIsSingleFile, const
 
 /// The render job of an export pair: a copy of the export job that renders
 /// the driver's images and waits for the export.
-LoadResult makeRenderJob(Driver& d, zkJ::_JobBasicsArray& jobs, const _zkString<500>& scene)
+LoadResult makeRenderJob(Driver& d, int exportIndex)
 {
-    mantraIFDJob = true;
+    d.scene.exportPairMade = true;
+    zkJ::_JobBasicsArray& jobs = d.scene.jobs;
     zkJ::_JobBasics_largePath* job = nullptr;
     if (!jobs.getNewJob(job))
         return LoadNoJobRecord;
     // Growing the array may have moved the export job.
-    const zkJ::_JobBasics_largePath* exportJob = jobs.at(jobs.count - 2);
+    const zkJ::_JobBasics_largePath* exportJob = jobs.at(exportIndex);
     if (!exportJob)
         return LoadNoJobRecord;
+    JobNote& note = d.scene.noteOf(jobs.count - 1);
+    note = d.scene.notes[size_t(exportIndex)];
+    note.exportJob = exportIndex;
     copyJob(*job, *exportJob);
     job->preID = static_cast<unsigned char>(jobs.count);
     job->waitForPreIDs[0] = static_cast<unsigned char>(jobs.count - 1);
@@ -183,21 +189,22 @@ LoadResult makeRenderJob(Driver& d, zkJ::_JobBasicsArray& jobs, const _zkString<
     job->imageSingleOutputFile = false;
     job->imageDir.clear();
     job->imageExtension.clear();
-    job->imageFileName.set(replaceHoudiniVariables(d.imagePath, job, hVariables, scene));
+    job->imageFileName.set(
+        replaceHoudiniVariables(d.imagePath, job, d.scene.variables, d.scene.sceneFile));
 
-    const _LOPNode* lop = d.isUSD ? linkedLop(d) : nullptr;
+    const LopNode* lop = d.isUSD ? linkedLop(d) : nullptr;
     job->renderApp.appName.set(renderApplication(d, exportJob->imageSingleOutputFile, lop));
     if (d.isUSD)
         job->renderApp.rendererName.set(lop ? lop->renderer : QString());
-    writeAovChannels(d, *job, scene);
+    writeAovChannels(d, *job);
     job->splitImageFileInto_DirFileExt(true);
     return LoadOk;
 }
 
 /// The size written into the job. A driver whose toggle leaves the size to the
-/// camera gets 0 here, and a fraction of the camera's size remembered for the
+/// camera gets 0 here, and a fraction of the camera's size noted for the
 /// completion pass when it asks for one.
-void applyResolution(const Driver& d, zkJ::_JobBasics_largePath& job, const QString& layerKey)
+void applyResolution(const Driver& d, zkJ::_JobBasics_largePath& job, JobNote& note)
 {
     const bool ownSize = d.resToggle == Driver::Toggle::Absent
         || (d.resToggle == Driver::Toggle::On && d.resFraction <= 0);
@@ -206,9 +213,7 @@ void applyResolution(const Driver& d, zkJ::_JobBasics_largePath& job, const QStr
         job.imageHeight = static_cast<unsigned short>(d.overrideResY);
     }
     if (d.resToggle == Driver::Toggle::On && d.resFraction > 0)
-        nodeResFractions.insert(layerKey, d.resFraction);
-    else
-        nodeResFractions.remove(layerKey);
+        note.resolutionFraction = d.resFraction;
 }
 
 } // namespace
@@ -217,60 +222,60 @@ LoadResult makeDriverJobs(Driver& d)
 {
     if (d.path.contains("/karma"_L1)) {
         // A Karma driver is its own LOP node: its renderer comes from its name.
-        _LOPNode own;
+        LopNode own;
         own.nodePath = d.path;
         own.imageOut = d.imagePath;
-        own.imageUsesTake = d.takeFound;
-        LOPList.addLOP(own);
-        LOPList.addLOPFromOutNode(d.path, d.path);
+        own.imageUsesTake = d.scene.takeFound;
+        d.scene.lops.addLOP(own);
+        d.scene.lops.addLOPFromOutNode(d.path, d.path);
         d.isUSD = true;
         d.isPicture = false;
     }
     if (!isUsableOutput(d.imagePath) || (d.exportMode && !isUsableOutput(d.exportPath))) {
-        emptyNodesfound = true;
+        d.scene.emptyDriverFound = true;
         return LoadOk;
     }
 
-    zkJ::_JobBasicsArray& jobs = *d.data.jobs;
-    const _zkString<500> noScene;
-    const _zkString<500>& scene = d.data.sceneFile ? *d.data.sceneFile : noScene;
+    Scene& scene = d.scene;
+    zkJ::_JobBasicsArray& jobs = scene.jobs;
     zkJ::_JobBasics_largePath* job = nullptr;
     if (!jobs.getNewJob(job))
         return LoadNoJobRecord;
     const int firstIndex = jobs.count - 1;
+    JobNote& note = scene.noteOf(firstIndex);
+    note = JobNote();
 
     job->renderApp.appName.set(appNameHoudini);
-    job->sceneDatabaseDir.set(DatabaseDir);
-    job->seqStart = seqStart;
-    job->seqEnd = seqEnd;
-    job->seqStep = static_cast<unsigned short>(seqStep);
+    job->sceneDatabaseDir.set(scene.databaseDir);
+    job->seqStart = d.frameStart;
+    job->seqEnd = d.frameEnd;
+    job->seqStep = static_cast<unsigned short>(d.frameStep);
     job->layer.set(d.path);
-    const QString layerKey = job->layer.toQString();
-    applyResolution(d, *job, layerKey);
+    applyResolution(d, *job, note);
     job->customDataSet_Str(QStringLiteral("zkSubmitterPluginVersion"), QLatin1String(zkVersion));
 
     removeBraces(d.imagePath);
     removeBraces(d.exportPath);
     composeAovFiles(d);
-    nodeActiveTakes.insert(layerKey, d.takeName);
+    note.take = d.takeName;
     markAovTokens(d.imagePath);
     markAovTokens(d.exportPath);
 
     if (!d.exportMode) {
         job->imageFileName.set(d.imagePath);
         job->renderApp.rendererName.set(renderRendererName(d, *job));
-        writeAovChannels(d, *job, scene);
+        writeAovChannels(d, *job);
     } else {
         job->imageFileName.set(d.exportPath);
         setExportRenderer(d, *job, jobs);
     }
-    job->imageFileName.set(
-        replaceHoudiniVariables(job->imageFileName.toQString(), job, hVariables, scene));
+    job->imageFileName.set(replaceHoudiniVariables(
+        job->imageFileName.toQString(), job, scene.variables, scene.sceneFile));
     job->splitImageFileInto_DirFileExt(true);
     job->preID = static_cast<unsigned char>(jobs.count);
 
     if (d.exportMode && !d.proxyCamera) {
-        const LoadResult result = makeRenderJob(d, jobs, scene);
+        const LoadResult result = makeRenderJob(d, firstIndex);
         if (result != LoadOk)
             return result;
     }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "plugin/loadResult.h"
-#include "plugin/zkPluginRecords.h"
+#include "plugin/scene.h"
 
 #include <QString>
 
@@ -12,23 +12,23 @@ struct Driver
 {
     static constexpr int AovSlots = 20; ///< index 0 stays empty; AOVs are numbered 1 to 19
 
-    Driver(zkP::_dataPARS_LoadSceneFile& record, bool& take, int major, const QString& minor)
-        : data(record)
-        , takeFound(take)
-        , houdiniMajor(major)
-        , houdiniMinorText(minor)
+    explicit Driver(Scene& loading)
+        : scene(loading)
+        , frameStart(loading.frameStart)
+        , frameEnd(loading.frameEnd)
     { }
 
-    zkP::_dataPARS_LoadSceneFile& data;
-    /// The scene-wide take flag: an image path that names the active take sets it.
-    bool& takeFound;
-    const int houdiniMajor;
-    const QString& houdiniMinorText;
+    Scene& scene;
 
     QString path; ///< node path such as "/out/mantra1"; the jobs' layer
     QString imagePath;
     QString exportPath; ///< scene-description file of an export
     QString takeName;
+    /// "trange" on: the driver's own "f" line sets its frames, else the scene's range holds.
+    bool ownFrameRange = false;
+    int frameStart;
+    int frameEnd;
+    int frameStep = 1;
     bool exportMode = false;
     bool isSingleFile = false; ///< one output file for the whole frame range
     bool proxyCamera = false; ///< a Redshift proxy export: no render job

@@ -9,7 +9,6 @@
 // export toggle read after a Redshift line is not Mantra's toggle.
 #include "outNodeJobs.h"
 #include "plugin/parameterLine.h"
-#include "plugin/parserState.h"
 #include "plugin/paths/imageTokens.h"
 #include "readerCommon.h"
 #include "sectionLoop.h"
@@ -41,17 +40,17 @@ Step picture(Driver& d, const QString& line)
 {
     bool singleFile = false;
     const bool accepted
-        = replaceImageOutVars(line, d.prependPicture, d.imagePath, d.takeFound, singleFile);
+        = replaceImageOutVars(line, d.prependPicture, d.imagePath, d.scene.takeFound, singleFile);
     // An Alembic archive without a frame token holds the whole range in one file.
     if (d.isAlembic && accepted && singleFile)
         d.isSingleFile = true;
     return Step::Next;
 }
 
-Step frameRangeMode(Driver&, const QString& line)
+Step frameRangeMode(Driver& d, const QString& line)
 {
     if (line.contains("\"on\""_L1) || line.contains("\"normal\""_L1))
-        trange = true;
+        d.ownFrameRange = true;
     return Step::Next;
 }
 
@@ -74,41 +73,41 @@ int intBefore(const QString& text, QChar stop)
 
 /// "f" holds start, end and step, separated by tabs; start and end may be
 /// channel references "[ f1\t1 ]" and "[ f2\t240 ]".
-Step frameNumbers(Driver&, const QString& line)
+Step frameNumbers(Driver& d, const QString& line)
 {
     QString v = bracketValue(line);
     if (v.contains("f1"_L1, Qt::CaseInsensitive)) {
         dropThrough(v, u"f1", Qt::CaseInsensitive);
         v = v.trimmed();
-        seqStart = intBefore(v, u' ');
+        d.frameStart = intBefore(v, u' ');
         if (v.contains("f2"_L1, Qt::CaseInsensitive)) {
             dropThrough(v, u"f2", Qt::CaseInsensitive);
-            seqEnd = intBefore(v, u' ');
+            d.frameEnd = intBefore(v, u' ');
             dropThrough(v, u"]");
             v.remove(0, 1);
         } else {
             dropThrough(v, u"]");
             v.remove(0, 1);
             v = v.trimmed();
-            seqEnd = intBefore(v, u'\t');
+            d.frameEnd = intBefore(v, u'\t');
             dropThrough(v, u"\t");
         }
-        seqStep = QStringView(v).trimmed().toInt();
+        d.frameStep = QStringView(v).trimmed().toInt();
         return Step::Next;
     }
     if (!v.contains(u'\t'))
         return Step::Next;
-    seqStart = intBefore(v, u'\t');
+    d.frameStart = intBefore(v, u'\t');
     dropThrough(v, u"\t");
     v = v.trimmed();
     if (!v.contains(u'\t')) {
-        seqEnd = v.toInt();
-        seqStep = 1;
+        d.frameEnd = v.toInt();
+        d.frameStep = 1;
         return Step::Next;
     }
-    seqEnd = intBefore(v, u'\t');
+    d.frameEnd = intBefore(v, u'\t');
     dropThrough(v, u"\t");
-    seqStep = v.toInt();
+    d.frameStep = v.toInt();
     return Step::Next;
 }
 
@@ -151,7 +150,7 @@ Step camera(Driver& d, const QString& line)
         return Step::Next;
     d.proxyCamera = v.startsWith("proxy_export"_L1, Qt::CaseInsensitive);
     if (!d.proxyCamera)
-        camList.addCamFromOutNode(_zkString8_allSize<150>(v), d.path);
+        d.scene.cameras.addCamFromOutNode(_zkString8_allSize<150>(v), d.path);
     return Step::Next;
 }
 
@@ -177,8 +176,8 @@ Step lopLink(Driver& d, const QString& line)
     const QString v = unquotedBracketValue(line);
     if (!v.contains("/hdprman"_L1))
         return Step::Next;
-    const int index = LOPList.addLOPFromOutNode(v, d.path);
-    const QString& imageOut = LOPList.list.at(index).imageOut;
+    const int index = d.scene.lops.addLOPFromOutNode(v, d.path);
+    const QString& imageOut = d.scene.lops.list.at(index).imageOut;
     if (!imageOut.isEmpty())
         d.imagePath = imageOut;
     return Step::Next;
@@ -188,7 +187,7 @@ Step lopLink(Driver& d, const QString& line)
 Step usdOutput(Driver& d, const QString& line)
 {
     bool singleFile = false;
-    if (replaceImageOutVars(line, false, d.exportPath, d.takeFound, singleFile))
+    if (replaceImageOutVars(line, false, d.exportPath, d.scene.takeFound, singleFile))
         d.isSingleFile = singleFile;
     d.isUSD = true;
     d.exportMode = true;
@@ -199,8 +198,8 @@ Step usdOutput(Driver& d, const QString& line)
 Step lopRenderer(Driver& d, const QString& line)
 {
     const QString v = unquotedBracketValue(line);
-    const int index = LOPList.addLOPFromOutNode(v, d.path);
-    LOPList.list[index].setRenderer(v);
+    const int index = d.scene.lops.addLOPFromOutNode(v, d.path);
+    d.scene.lops.list[index].setRenderer(v);
     return Step::Next;
 }
 
@@ -221,7 +220,8 @@ Step vrayExportMode(Driver& d, const QString& line)
 /// "fileperframe": Houdini 18.0 writes a single scene file when it is off.
 Step filePerFrame(Driver& d, const QString& line)
 {
-    if (d.houdiniMajor == 18 && d.houdiniMinorText.startsWith(u'0') && !d.exportPath.contains(u'%'))
+    if (d.scene.houdiniMajor == 18 && d.scene.houdiniMinorForReaders.startsWith(u'0')
+        && !d.exportPath.contains(u'%'))
         d.isSingleFile = !line.contains("on"_L1);
     return Step::Next;
 }
@@ -230,7 +230,8 @@ Step filePerFrame(Driver& d, const QString& line)
 Step exportFile(Driver& d, const QString& line)
 {
     bool singleFile = false;
-    const bool accepted = replaceImageOutVars(line, false, d.exportPath, d.takeFound, singleFile);
+    const bool accepted
+        = replaceImageOutVars(line, false, d.exportPath, d.scene.takeFound, singleFile);
     if (d.isVRay && accepted && singleFile)
         d.isSingleFile = true;
     return Step::Next;
@@ -286,7 +287,7 @@ Step aov(Driver& d, const QString& line)
     }
     // An AOV written next to the scene ties the render to the scene's folder.
     if (value.contains("$HIP"_L1, Qt::CaseInsensitive))
-        HIPFound_DisableLocalScene = true;
+        d.scene.aovBesideScene = true;
     return Step::Next;
 }
 
@@ -314,9 +315,9 @@ Step abandon(Driver&, const QString&)
     return Step::Abandon;
 }
 
-bool trangeIsOn(const Driver&)
+bool ownFrameRange(const Driver& d)
 {
-    return trange;
+    return d.ownFrameRange;
 }
 
 // ---- the rule table --------------------------------------------------------
@@ -333,7 +334,7 @@ struct Rule
 
 const Rule Rules[] = {
     { 1, { "trange"_L1 }, nullptr, frameRangeMode },
-    { 2, { "f\t"_L1 }, trangeIsOn, frameNumbers },
+    { 2, { "f\t"_L1 }, ownFrameRange, frameNumbers },
     { 3, { "vm_picture\t"_L1 }, nullptr, picture },
     { 4, { "copoutput\t"_L1 }, nullptr, picture },
     { 5, { "ar_picture\t"_L1 }, nullptr, flagThen<&Driver::isArnold, picture> },
@@ -456,19 +457,12 @@ QString driverPathOf(const QString& header)
 
 } // namespace
 
-LoadResult loadOutNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& line,
-    bool& takeFound, const int& houdiniMajor, const QString& houdiniMinorForReaders)
+LoadResult readDriverSection(Scene& scene, LineSource& in, QString& line)
 {
-    if (!data || !data->jobs)
-        return LoadNoJobRecord;
-    if (data->jobs->count > MaxJobsBeforeDriver)
+    if (scene.jobs.count > MaxJobsBeforeDriver)
         return LoadOk;
 
-    trange = false;
-    seqStart = GLseqStart;
-    seqEnd = GLseqEnd;
-    seqStep = 1;
-    Driver d(*data, takeFound, houdiniMajor, houdiniMinorForReaders);
+    Driver d(scene);
     d.path = driverPathOf(line);
 
     static const RuleIndex index;

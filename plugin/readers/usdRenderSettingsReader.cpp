@@ -1,5 +1,4 @@
-#include "elementSection.h"
-#include "plugin/loadResult.h"
+#include "plugin/elements/elementSection.h"
 #include "plugin/parameterLine.h"
 #include "plugin/parserState.h"
 #include "plugin/paths/houdiniVariables.h"
@@ -49,19 +48,15 @@ QString settingValue(const QString& line)
 /// The archive file becomes the image output of every Houdini job of the
 /// entry's first registered driver, expanded and split again. 7 when the
 /// array yields no record for an index below its count.
-LoadResult rewriteDriverJobs(
-    zkP::_dataPARS_LoadSceneFile* data, const _USD_RendersettingNode& entry)
+LoadResult rewriteDriverJobs(Scene& scene, const RenderSettingsNode& entry)
 {
-    if (entry.renderNodes.isEmpty() || !data || !data->jobs || data->jobs->count <= 0)
+    if (entry.renderNodes.isEmpty())
         return LoadOk;
 
     const _zkString<25> houdini(appNameHoudini);
     const _zkString<150> driver(entry.renderNodes.first());
     const _zkString<1000> name(houdiniNodeName(entry.nodePath));
-    const _zkString<500> noScene;
-    const _zkString<500>& sceneFile = data->sceneFile ? *data->sceneFile : noScene;
-
-    zkJ::_JobBasicsArray& jobs = *data->jobs;
+    zkJ::_JobBasicsArray& jobs = scene.jobs;
     for (int i = 0; i < jobs.count; ++i) {
         zkJ::_JobBasics_largePath* job = jobs.at(i);
         if (!job)
@@ -73,8 +68,8 @@ LoadResult rewriteDriverJobs(
         job->imageExtension.clear();
         job->imageFileName.replace(_zkString<1000>("$OS"), name);
         job->imageFileName.replace(_zkString<1000>("${OS}"), name);
-        job->imageFileName.set(
-            replaceHoudiniVariables(job->imageFileName.toQString(), job, hVariables, sceneFile));
+        job->imageFileName.set(replaceHoudiniVariables(
+            job->imageFileName.toQString(), job, scene.variables, scene.sceneFile));
         job->splitImageFileInto_DirFileExt(true);
     }
     return LoadOk;
@@ -82,9 +77,9 @@ LoadResult rewriteDriverJobs(
 
 } // namespace
 
-LoadResult load_USD_RS_Node(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& line)
+LoadResult readRenderSettingsSection(Scene& scene, LineSource& in, QString& line)
 {
-    _USD_RendersettingNode node;
+    RenderSettingsNode node;
     node.nodePath = nodePathStage(line);
 
     static const sectionLoop::KeywordStarts starts = [] {
@@ -124,6 +119,6 @@ LoadResult load_USD_RS_Node(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, 
           });
     if (end != sectionLoop::SectionEnd::Closed)
         return LoadOk;
-    const int index = USD_RSList.add(node);
-    return rewriteDriverJobs(data, USD_RSList.list.at(index));
+    const int index = scene.renderSettings.add(node);
+    return rewriteDriverJobs(scene, scene.renderSettings.list.at(index));
 }

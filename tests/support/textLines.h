@@ -2,7 +2,7 @@
 //
 //     zkTest::TextLines lines("picture\t[ 0 ]\t(\t\"a.exr\"\t)\n}\n");
 //     QString header = QStringLiteral("out/mantra1.parm {");
-//     loadOutNode(&data, lines.source, header, ...);
+//     readDriverSection(scene, lines.source, header);
 //     EXPECT_TRUE(lines.source.atEnd());
 #pragma once
 

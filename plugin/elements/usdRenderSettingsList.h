@@ -1,13 +1,13 @@
 // USD render-settings nodes of one scene and the drivers registered with them.
 #pragma once
 
-#include "plugin/readers/elementSection.h"
+#include "plugin/elements/elementSection.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
 
-struct _USD_RendersettingNode
+struct RenderSettingsNode
 {
     QString nodePath;
     QString camera;
@@ -18,19 +18,19 @@ struct _USD_RendersettingNode
     bool spareFlag = false;
     QStringList renderNodes;
 
-    _USD_RendersettingNode() { clear(); }
+    RenderSettingsNode() { clear(); }
     void clear();
 };
 
-class _USD_RSList
+class RenderSettingsList
 {
 public:
     int findIndex(QString const& nodePath, bool const& create);
     int addFromROP(QString name, QString const& driverPath);
-    int add(_USD_RendersettingNode& node);
+    int add(RenderSettingsNode& node);
 
     /// Add through the members above: they keep the lookups' indexes.
-    QList<_USD_RendersettingNode> list;
+    QList<RenderSettingsNode> list;
 
 private:
     elementSection::FirstIndex byPath;

@@ -2,7 +2,7 @@
 
 #include "elementSection.h"
 
-void _USD_RendersettingNode::clear()
+void RenderSettingsNode::clear()
 {
     camera.clear();
     imageUsesTake = false;
@@ -10,22 +10,22 @@ void _USD_RendersettingNode::clear()
     spareFlag = false;
 }
 
-int _USD_RSList::findIndex(QString const& nodePath, bool const& create)
+int RenderSettingsList::findIndex(QString const& nodePath, bool const& create)
 {
     return elementSection::findByNodePath(list, byPath, nodePath, create);
 }
 
-int _USD_RSList::addFromROP(QString name, QString const& driverPath)
+int RenderSettingsList::addFromROP(QString name, QString const& driverPath)
 {
     const int index = findIndex(elementSection::unwrapChsop(name), true);
     list[index].renderNodes.append(driverPath);
     return index;
 }
 
-int _USD_RSList::add(_USD_RendersettingNode& node)
+int RenderSettingsList::add(RenderSettingsNode& node)
 {
     const int index = findIndex(node.nodePath, true);
-    _USD_RendersettingNode& entry = list[index];
+    RenderSettingsNode& entry = list[index];
     entry.nodePath = node.nodePath;
     entry.camera = node.camera;
     entry.archiveEnabled = node.archiveEnabled;

@@ -4,7 +4,7 @@
 #include <QList>
 #include <QString>
 
-struct _wedgeParams
+struct WedgeParameter
 {
     QString name;
     double rangeStart = 0.0;
@@ -14,13 +14,13 @@ struct _wedgeParams
     double valueIdx(int const& i) const;
 };
 
-struct _wedgeNode
+struct WedgeNode
 {
     QString prefix;
     QString nodePath;
     QString driver;
     QString wedgeMethod;
-    QList<_wedgeParams> params;
+    QList<WedgeParameter> params;
     int total = -1;
 
     int totalWedges();
