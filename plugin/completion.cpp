@@ -1,5 +1,6 @@
 #include "completion.h"
 
+#include "plugin/jobWalk.h"
 #include "plugin/parserState.h"
 #include "plugin/scene.h"
 
@@ -99,10 +100,9 @@ struct ExportFiles
 ExportFiles exportFilesOf(const Scene& scene, const JobNote& note)
 {
     ExportFiles files;
-    const zkJ::_JobBasics_largePath* exportJob
-        = note.exportJob < 0 ? nullptr : scene.jobs.at(note.exportJob);
-    if (!exportJob)
+    if (note.exportJob < 0)
         return files;
+    const zkJ::_JobBasics_largePath* exportJob = scene.jobs.records + note.exportJob;
     _zkString<1000> imagePath = exportJob->imageDir;
     imagePath.append(exportJob->imageFileName.view());
     files.imagePath = imagePath.toQString();
@@ -212,27 +212,24 @@ LoadResult completeJobs(Scene& scene)
         if (variable.name.compare("JOB"_L1, Qt::CaseInsensitive) == 0)
             houdiniJob = &variable.value;
     }
-    for (int i = 0; i < jobs.count; ++i) {
-        zkJ::_JobBasics_largePath* job = jobs.at(i);
-        if (!job)
-            return LoadNoJobRecord;
-        job->renderApp.versionMajor = static_cast<short>(scene.houdiniMajor);
-        job->renderApp.setVersionMinor(scene.houdiniMinorForJobs);
+    const LoadResult completed = forEachJob(jobs, [&](zkJ::_JobBasics_largePath& job, int i) {
+        job.renderApp.versionMajor = static_cast<short>(scene.houdiniMajor);
+        job.renderApp.setVersionMinor(scene.houdiniMinorForJobs);
         if (houdiniJob)
-            job->customDataSet_Str(QStringLiteral("HoudiniJob"), *houdiniJob);
-        completeApplication(*job, exportFilesOf(scene, scene.noteOf(i)), scene, versions);
+            job.customDataSet_Str(QStringLiteral("HoudiniJob"), *houdiniJob);
+        completeApplication(job, exportFilesOf(scene, scene.noteOf(i)), scene, versions);
         if (jobs.count <= 2)
-            job->auxByte3 = 1;
-    }
+            job.auxByte3 = 1;
+        return LoadOk;
+    });
+    if (completed != LoadOk)
+        return completed;
     // An export's files are read as its render job's scene before they are
     // renamed for compression.
-    for (int i = 0; i < jobs.count; ++i) {
-        zkJ::_JobBasics_largePath* job = jobs.at(i);
-        if (!job)
-            return LoadNoJobRecord;
+    return forEachJob(jobs, [&](zkJ::_JobBasics_largePath& job, int i) {
         if (scene.ctx.compressedExportSwitch)
-            compressExport(*job);
-        completeCamera(*job, scene, scene.noteOf(i));
-    }
-    return LoadOk;
+            compressExport(job);
+        completeCamera(job, scene, scene.noteOf(i));
+        return LoadOk;
+    });
 }

@@ -3,6 +3,7 @@
 #include "completion.h"
 #include "plugin/elements/elementSection.h"
 #include "plugin/jobCopy.h"
+#include "plugin/jobWalk.h"
 
 #include <QHash>
 
@@ -47,14 +48,10 @@ void removeWedgeTokens(zkJ::_JobBasics_largePath& job)
 /// Appends a copy of job \p source; null when the array gives no record.
 zkJ::_JobBasics_largePath* appendCopy(zkJ::_JobBasicsArray& jobs, int source)
 {
-    zkJ::_JobBasics_largePath* copy = nullptr;
-    if (!jobs.getNewJob(copy))
-        return nullptr;
+    zkJ::_JobBasics_largePath* copy = appendJob(jobs);
     // Growing the array may have moved every record.
-    const zkJ::_JobBasics_largePath* from = jobs.at(source);
-    if (!from)
-        return nullptr;
-    copyJob(*copy, *from);
+    if (copy)
+        copyJob(*copy, jobs.records[source]);
     return copy;
 }
 
@@ -94,21 +91,17 @@ LoadResult fanOutTakes(Scene& scene)
     const int n = jobs.count;
     const TakeList takeList(takes);
     std::vector<int> everyTake; // jobs whose drivers name no take the scene has
-    for (int j = 0; j < n; ++j) {
-        zkJ::_JobBasics_largePath* job = jobs.at(j);
-        if (!job)
-            return LoadNoJobRecord;
-        QString& driverTake = scene.noteOf(j).take;
-        job->channel.set(takes.first());
-        if (!driverTake.isEmpty()) {
-            if (const QString* take = takeList.find(driverTake))
-                job->channel.set(*take);
-            else
-                driverTake.clear(); // a take the scene does not have: render them all
-        }
-        if (driverTake.isEmpty())
+    const LoadResult named = forEachJob(jobs, [&](zkJ::_JobBasics_largePath& job, int j) {
+        const QString& driverTake = scene.noteOf(j).take;
+        const QString* take = driverTake.isEmpty() ? nullptr : takeList.find(driverTake);
+        // A take the scene does not have renders them all.
+        job.channel.set(take ? *take : takes.first());
+        if (!take)
             everyTake.push_back(j);
-    }
+        return LoadOk;
+    });
+    if (named != LoadOk)
+        return named;
     // Each further take copies at least one job, so the job array's cap also
     // bounds this loop for a scene with a huge take list.
     for (int t = 1; t < takes.size() && !everyTake.empty(); ++t) {
@@ -136,20 +129,19 @@ LoadResult fanOutWedges(Scene& scene)
     QList<WedgeNode>& wedges = scene.wedges;
     const int m = jobs.count;
     int counter = m;
-    for (int j = 0; j < m; ++j) {
-        const zkJ::_JobBasics_largePath* job = jobs.at(j);
-        if (!job)
-            return LoadNoJobRecord;
-        // A driver with its own take was not copied per take, which leaves
-        // preIDs above m; the wedge copies must not repeat them.
-        counter = std::max(counter, int(job->preID));
-    }
-
     // The job a waiting copy's source waits for: the first with that preID.
     std::array<int, 256> firstWithPreID;
     firstWithPreID.fill(-1);
-    for (int e = m - 1; e >= 0; --e)
-        firstWithPreID[jobs.at(e)->preID] = e;
+    const LoadResult numbered = forEachJob(jobs, [&](const zkJ::_JobBasics_largePath& job, int j) {
+        // A driver with its own take was not copied per take, which leaves
+        // preIDs above m; the wedge copies must not repeat them.
+        counter = std::max(counter, int(job.preID));
+        if (firstWithPreID[job.preID] < 0)
+            firstWithPreID[job.preID] = j;
+        return LoadOk;
+    });
+    if (numbered != LoadOk)
+        return numbered;
     // The wedges of each driver in list order: a scene may hold many wedge
     // drivers, and trying each on every job would multiply the two.
     QHash<QString, std::vector<int>> wedgesOf;
@@ -157,11 +149,8 @@ LoadResult fanOutWedges(Scene& scene)
         wedgesOf[wedges.at(w).driver].push_back(w);
     // preID of the copy of job j made for wedge w and variant k.
     std::map<std::tuple<int, int, int>, unsigned char> copies;
-    for (int j = 0; j < m; ++j) {
-        const zkJ::_JobBasics_largePath* job = jobs.at(j);
-        if (!job)
-            return LoadNoJobRecord;
-        const auto driven = wedgesOf.constFind(job->layer.toQString());
+    return forEachJob(jobs, [&](const zkJ::_JobBasics_largePath& job, int j) {
+        const auto driven = wedgesOf.constFind(job.layer.toQString());
         for (const int w : driven == wedgesOf.cend() ? std::vector<int>() : *driven) {
             WedgeNode& wedge = wedges[w];
             const int total = wedge.totalWedges();
@@ -190,13 +179,11 @@ LoadResult fanOutWedges(Scene& scene)
             }
         }
         // Copying may have moved the records.
-        zkJ::_JobBasics_largePath* own = jobs.at(j);
-        if (!own)
-            return LoadNoJobRecord;
-        own->auxByte3 = 0;
-        removeWedgeTokens(*own);
-    }
-    return LoadOk;
+        zkJ::_JobBasics_largePath& own = jobs.records[j];
+        own.auxByte3 = 0;
+        removeWedgeTokens(own);
+        return LoadOk;
+    });
 }
 
 } // namespace
@@ -214,11 +201,8 @@ LoadResult fanOutJobs(Scene& scene)
         return LoadOnlyEmptyDrivers;
     if (!scene.wedges.isEmpty())
         return fanOutWedges(scene);
-    for (int i = 0; i < jobs.count; ++i) {
-        zkJ::_JobBasics_largePath* job = jobs.at(i);
-        if (!job)
-            return LoadNoJobRecord;
-        removeWedgeTokens(*job);
-    }
-    return LoadOk;
+    return forEachJob(jobs, [](zkJ::_JobBasics_largePath& job, int) {
+        removeWedgeTokens(job);
+        return LoadOk;
+    });
 }

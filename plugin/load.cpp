@@ -23,8 +23,8 @@ LoadResult loadLines(const LoadContext& ctx, QIODevice& device)
         result = completeJobs(scene);
     if (result == LoadOk)
         result = fanOutJobs(scene);
-    // A refused getNewJob leaves count one past the records there are (result
-    // 7); the host reads count records, so it must not be told of that one.
+    // The host reads count records: whatever count it handed in, it must not
+    // be told of more records than the array holds.
     zkJ::_JobBasicsArray& jobs = scene.jobs;
     if (jobs.count > jobs.allocated)
         jobs.count = jobs.allocated;

@@ -2,6 +2,7 @@
 
 #include "jobs/ZK_DataTypes_jobs_defines.h"
 #include "plugin/jobCopy.h"
+#include "plugin/jobWalk.h"
 #include "plugin/parserState.h"
 #include "plugin/paths/houdiniVariables.h"
 #include "plugin/paths/imageTokens.h"
@@ -172,13 +173,11 @@ LoadResult makeRenderJob(Driver& d, int exportIndex)
 {
     d.scene.exportPairMade = true;
     zkJ::_JobBasicsArray& jobs = d.scene.jobs;
-    zkJ::_JobBasics_largePath* job = nullptr;
-    if (!jobs.getNewJob(job))
+    zkJ::_JobBasics_largePath* job = appendJob(jobs);
+    if (!job)
         return LoadNoJobRecord;
     // Growing the array may have moved the export job.
-    const zkJ::_JobBasics_largePath* exportJob = jobs.at(exportIndex);
-    if (!exportJob)
-        return LoadNoJobRecord;
+    const zkJ::_JobBasics_largePath* exportJob = jobs.records + exportIndex;
     JobNote& note = d.scene.noteOf(jobs.count - 1);
     note = d.scene.notes[size_t(exportIndex)];
     note.exportJob = exportIndex;
@@ -238,8 +237,8 @@ LoadResult makeDriverJobs(Driver& d)
 
     Scene& scene = d.scene;
     zkJ::_JobBasicsArray& jobs = scene.jobs;
-    zkJ::_JobBasics_largePath* job = nullptr;
-    if (!jobs.getNewJob(job))
+    zkJ::_JobBasics_largePath* job = appendJob(jobs);
+    if (!job)
         return LoadNoJobRecord;
     const int firstIndex = jobs.count - 1;
     JobNote& note = scene.noteOf(firstIndex);
@@ -281,8 +280,8 @@ LoadResult makeDriverJobs(Driver& d)
     }
 
     // Simulations run best on one machine from start to end.
-    zkJ::_JobBasics_largePath* first = jobs.at(firstIndex);
-    if (first && first->layer.indexOf(_zkString<150>("_sim_"), 0) >= 0)
-        first->customDataSet_Str(zkJ::CUSTOMSubmitterParameter, SimulationOptions);
+    zkJ::_JobBasics_largePath& first = jobs.records[firstIndex];
+    if (first.layer.indexOf(_zkString<150>("_sim_"), 0) >= 0)
+        first.customDataSet_Str(zkJ::CUSTOMSubmitterParameter, SimulationOptions);
     return LoadOk;
 }

@@ -1,4 +1,5 @@
 #include "plugin/elements/elementSection.h"
+#include "plugin/jobWalk.h"
 #include "plugin/parameterLine.h"
 #include "plugin/parserState.h"
 #include "plugin/paths/houdiniVariables.h"
@@ -57,22 +58,19 @@ LoadResult rewriteDriverJobs(Scene& scene, const RenderSettingsNode& entry)
     const _zkString<150> driver(entry.renderNodes.first());
     const _zkString<1000> name(houdiniNodeName(entry.nodePath));
     zkJ::_JobBasicsArray& jobs = scene.jobs;
-    for (int i = 0; i < jobs.count; ++i) {
-        zkJ::_JobBasics_largePath* job = jobs.at(i);
-        if (!job)
-            return LoadNoJobRecord;
-        if (!job->renderApp.appName.isEqual(houdini) || !job->layer.isEqual(driver))
-            continue;
-        job->imageFileName.set(entry.archiveFile);
-        job->imageDir.clear();
-        job->imageExtension.clear();
-        job->imageFileName.replace(_zkString<1000>("$OS"), name);
-        job->imageFileName.replace(_zkString<1000>("${OS}"), name);
-        job->imageFileName.set(replaceHoudiniVariables(
-            job->imageFileName.toQString(), job, scene.variables, scene.sceneFile));
-        job->splitImageFileInto_DirFileExt(true);
-    }
-    return LoadOk;
+    return forEachJob(jobs, [&](zkJ::_JobBasics_largePath& job, int) {
+        if (!job.renderApp.appName.isEqual(houdini) || !job.layer.isEqual(driver))
+            return LoadOk;
+        job.imageFileName.set(entry.archiveFile);
+        job.imageDir.clear();
+        job.imageExtension.clear();
+        job.imageFileName.replace(_zkString<1000>("$OS"), name);
+        job.imageFileName.replace(_zkString<1000>("${OS}"), name);
+        job.imageFileName.set(replaceHoudiniVariables(
+            job.imageFileName.toQString(), &job, scene.variables, scene.sceneFile));
+        job.splitImageFileInto_DirFileExt(true);
+        return LoadOk;
+    });
 }
 
 } // namespace
