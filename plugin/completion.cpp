@@ -1,10 +1,11 @@
 #include "completion.h"
 
 #include "plugin/jobWalk.h"
-#include "plugin/parserState.h"
+#include "plugin/renderers.h"
 #include "plugin/scene.h"
 
 #include <algorithm>
+#include <array>
 #include <climits>
 #include <cmath>
 
@@ -40,13 +41,7 @@ struct RendererVersion
     }
 };
 
-struct RendererVersions
-{
-    RendererVersion arnold;
-    RendererVersion redshift;
-    RendererVersion vray;
-    RendererVersion renderman;
-};
+using RendererVersions = std::array<RendererVersion, RendererCount>;
 
 /// "HtoA_KickVersion" of the scene, then the submitter's overrides: the last
 /// one given wins, and an override without a value behind it is ignored.
@@ -56,22 +51,13 @@ RendererVersions rendererVersions(const Scene& scene)
     RendererVersions v;
     for (const SceneVariable& variable : scene.variables) {
         if (variable.name.compare(QLatin1String("HtoA_KickVersion"), Qt::CaseInsensitive) == 0)
-            v.arnold.parse(variable.value);
+            v[int(Renderer::Arnold)].parse(variable.value);
     }
-    const struct
-    {
-        const char* argument;
-        RendererVersion RendererVersions::*version;
-    } overrides[] = {
-        { "-customRenVer_Arnold", &RendererVersions::arnold },
-        { "-customRenVer_Redshift", &RendererVersions::redshift },
-        { "-customRenVer_VRay", &RendererVersions::vray },
-        { "-customRenVer_prman", &RendererVersions::renderman },
-    };
     for (qsizetype i = 0; i + 1 < arguments.size(); ++i) {
-        for (const auto& o : overrides) {
-            if (arguments[i].compare(QLatin1String(o.argument), Qt::CaseInsensitive) == 0)
-                (v.*o.version).parse(arguments[i + 1]);
+        for (int r = 0; r < RendererCount; ++r) {
+            const QLatin1String argument = rendererRow(Renderer(r)).versionArgument;
+            if (!argument.isEmpty() && arguments[i].compare(argument, Qt::CaseInsensitive) == 0)
+                v[r].parse(arguments[i + 1]);
         }
     }
     return v;
@@ -112,41 +98,36 @@ ExportFiles exportFilesOf(const Scene& scene, const JobNote& note)
     return files;
 }
 
-void completeApplication(zkJ::_JobBasics_largePath& job, const ExportFiles& exportFiles,
-    const Scene& scene, const RendererVersions& versions)
+/// Houdini's own jobs read the scene; a stand-alone render job reads its
+/// export's files and carries the version of its renderer.
+void completeApplication(zkJ::_JobBasics_largePath& job, const JobNote& note,
+    const ExportFiles& exportFiles, const Scene& scene, const RendererVersions& versions)
 {
     zkRA::_RenderAppBasic& app = job.renderApp;
-    const QString appName = app.appName.toQString();
-    if (appName == appNameHoudini) {
+    if (note.exportJob < 0) {
         job.renderLicenses.set(appNameHoudini);
         job.sceneName.set(scene.ctx.scenePath);
         return;
     }
-    if (appName == appNameMantra) {
-        job.renderLicenses.set(appNameMantra);
+    const Renderer renderer = note.renderer;
+    if (renderer == Renderer::Mantra) {
+        job.renderLicenses.set(*rendererRow(renderer).application);
         app.rendererName.clear();
         job.sceneName.set(exportFiles.sceneName(true));
         return;
     }
     job.renderLicenses.clear();
-    const bool usd = appName == appNameUSD || appName == appNameUSDsingle;
-    if (!usd) {
+    // A USD render job keeps its render delegate as its renderer name.
+    if (renderer != Renderer::Usd) {
         app.rendererName.set(appNameHoudini_Archive);
         app.rendererVersion.set(scene.houdiniVersion);
     }
     job.sceneName.set(exportFiles.sceneName(false));
-    if (appName == appNameArnold || appName == appNameArnold_singlefile) {
+    if (renderer == Renderer::Arnold)
         app.rendererName.setLatin1("HtoA");
-        versions.arnold.applyTo(app);
-    } else if (appName == appNameRenderman) {
-        versions.renderman.applyTo(app);
-    } else if (appName == appNameRedshift) {
-        versions.redshift.applyTo(app);
-    } else if (appName == appNameVRay) {
-        if (!exportFiles.singleFile)
-            app.rendererName.setLatin1("multifile");
-        versions.vray.applyTo(app);
-    }
+    else if (renderer == Renderer::VRay && !exportFiles.singleFile)
+        app.rendererName.setLatin1("multifile");
+    versions[int(renderer)].applyTo(app);
 }
 
 /// Compressed scene descriptions: the export writes ".gz" files and the
@@ -156,7 +137,7 @@ void compressExport(zkJ::_JobBasics_largePath& job)
     if (job.renderApp.rendererName.view() == u"createIFD") {
         job.renderApp.rendererName.setLatin1("createIFDzip");
         job.imageExtension.append(u".gz");
-    } else if (job.renderApp.appName.view() == appNameMantra) {
+    } else if (job.renderApp.appName.view() == *rendererRow(Renderer::Mantra).application) {
         job.renderApp.rendererName.setLatin1("zip");
         job.sceneName.append(u".gz");
     }
@@ -217,7 +198,8 @@ LoadResult completeJobs(Scene& scene)
         job.renderApp.setVersionMinor(scene.houdiniMinorForJobs);
         if (houdiniJob)
             job.customDataSet_Str(QStringLiteral("HoudiniJob"), *houdiniJob);
-        completeApplication(job, exportFilesOf(scene, scene.noteOf(i)), scene, versions);
+        const JobNote& note = scene.noteOf(i);
+        completeApplication(job, note, exportFilesOf(scene, note), scene, versions);
         if (jobs.count <= 2)
             job.auxByte3 = 1;
         return LoadOk;

@@ -10,6 +10,7 @@
 #include "plugin/elements/wedgeList.h"
 #include "plugin/loadContext.h"
 #include "plugin/paths/houdiniVariables.h"
+#include "plugin/renderers.h"
 #include "shared/zkString.h"
 
 #include <QList>
@@ -28,6 +29,8 @@ struct JobNote
     double resolutionFraction = 0.0;
     /// The export job a stand-alone render job reads the files of, or -1.
     int exportJob = -1;
+    /// The renderer whose application renders the export's files.
+    Renderer renderer = Renderer::Mantra;
 };
 
 struct Scene

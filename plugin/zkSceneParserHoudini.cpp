@@ -1,8 +1,8 @@
 // The two entry points the host resolves by name.
 #include "load.h"
 #include "loadResult.h"
-#include "parserState.h"
 #include "pluginExport.h"
+#include "renderers.h"
 #include "zkPluginRecords.h"
 
 #include <QtGlobal>

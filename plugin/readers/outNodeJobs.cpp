@@ -3,9 +3,9 @@
 #include "jobs/ZK_DataTypes_jobs_defines.h"
 #include "plugin/jobCopy.h"
 #include "plugin/jobWalk.h"
-#include "plugin/parserState.h"
 #include "plugin/paths/houdiniVariables.h"
 #include "plugin/paths/imageTokens.h"
+#include "plugin/renderers.h"
 #include "shared/zkShared.h"
 
 #include <cmath>
@@ -90,29 +90,16 @@ const LopNode* linkedLop(const Driver& d)
 
 QString renderRendererName(const Driver& d, zkJ::_JobBasics_largePath& job)
 {
-    if (d.isUSD) {
+    const Renderer renderer = firstRenderer(d.marked, false);
+    if (renderer == Renderer::Usd) {
         const LopNode* lop = linkedLop(d);
         return lop ? lop->rendererName_render() : QString();
     }
-    if (d.isArnold)
-        return QStringLiteral("arnold");
-    if (d.isPicture)
-        return QStringLiteral("opengl");
-    if (d.isGeometry)
-        return QStringLiteral("geometry");
-    if (d.isRedshift)
-        return QStringLiteral("redshift");
-    if (d.isRenderMan)
-        return QStringLiteral("prman");
-    if (d.isAlembic) {
-        if (!d.isSingleFile)
-            return QStringLiteral("alembic");
+    if (renderer == Renderer::Alembic && d.isSingleFile) {
         job.imageSingleOutputFile = true;
         return QStringLiteral("alembic-singleFile");
     }
-    if (d.isVRay)
-        return QStringLiteral("vray");
-    return QString();
+    return rendererRow(renderer).renderName;
 }
 
 /// The export job's renderer name. A USD export of a Redshift render
@@ -120,51 +107,32 @@ QString renderRendererName(const Driver& d, zkJ::_JobBasics_largePath& job)
 void setExportRenderer(Driver& d, zkJ::_JobBasics_largePath& job, zkJ::_JobBasicsArray& jobs)
 {
     _zkString<25>& name = job.renderApp.rendererName;
-    if (d.isUSD) {
+    const Renderer renderer = firstRenderer(d.marked, true);
+    if (renderer == Renderer::Usd) {
         const LopNode* lop = linkedLop(d);
-        name.set(lop ? lop->rendererName_create() : QStringLiteral("createUSD"));
-        if (name.indexOf(_zkString<25>("redshift"), 0) >= 0 && d.exportPath.endsWith(".rs"_L1)) {
-            d.prependPicture = true;
-            jobs.arrayText.append(QString::fromLatin1(LocalRenderOutOption));
-            d.isRedshift = true;
-            d.isUSD = false;
-        }
+        name.set(lop ? lop->rendererName_create() : QString(rendererRow(renderer).exportName));
         if (d.isSingleFile)
             job.imageSingleOutputFile = true;
+        if (name.indexOf(_zkString<25>("redshift"), 0) < 0 || !d.exportPath.endsWith(".rs"_L1))
+            return;
+        d.prependPicture = true;
+        jobs.arrayText.append(QString::fromLatin1(LocalRenderOutOption));
+        d.marked = (d.marked | bit(Renderer::Redshift)) & ~bit(Renderer::Usd);
     }
-    if (d.isUSD)
-        return;
-    if (d.isArnold)
-        name.setLatin1("createASS");
-    else if (d.isRedshift)
-        name.setLatin1("createRS");
-    else if (d.isRenderMan)
-        name.setLatin1("createRIB");
-    else if (d.isVRay) {
-        name.setLatin1("createVrScene");
-        if (d.isSingleFile)
-            job.imageSingleOutputFile = true;
-    } else
-        name.setLatin1("createIFD");
+    const Renderer exporter = firstRenderer(d.marked, true);
+    name.set(QString(rendererRow(exporter).exportName));
+    if (exporter == Renderer::VRay && d.isSingleFile)
+        job.imageSingleOutputFile = true;
 }
 
-/// The stand-alone renderer that renders an export's files.
-const QString& renderApplication(const Driver& d, bool exportIsSingleFile, const LopNode* lop)
+/// The stand-alone renderer that renders an export's files: a USD export
+/// goes to the renderer of its LOP node.
+Renderer renderApplication(const Driver& d, const LopNode* lop)
 {
-    if (d.isUSD) {
-        if (lop && lop->renderer == "arnold"_L1)
-            return exportIsSingleFile ? appNameArnold_singlefile : appNameArnold;
-        return exportIsSingleFile ? appNameUSDsingle : appNameUSD;
-    }
-    if (d.isArnold)
-        return appNameArnold;
-    if (d.prependPicture)
-        return appNameRedshift;
-    if (d.isRenderMan)
-        return appNameRenderman;
-    if (d.isVRay)
-        return appNameVRay;
-    return appNameMantra;
+    const Renderer renderer = firstRenderer(d.marked, true);
+    if (renderer == Renderer::Usd && lop && lop->renderer == "arnold"_L1)
+        return Renderer::Arnold;
+    return renderer;
 }
 
 /// The render job of an export pair: a copy of the export job that renders
@@ -191,9 +159,14 @@ LoadResult makeRenderJob(Driver& d, int exportIndex)
     job->imageFileName.set(
         replaceHoudiniVariables(d.imagePath, job, d.scene.variables, d.scene.sceneFile));
 
-    const LopNode* lop = d.isUSD ? linkedLop(d) : nullptr;
-    job->renderApp.appName.set(renderApplication(d, exportJob->imageSingleOutputFile, lop));
-    if (d.isUSD)
+    const bool usd = firstRenderer(d.marked, true) == Renderer::Usd;
+    const LopNode* lop = usd ? linkedLop(d) : nullptr;
+    note.renderer = renderApplication(d, lop);
+    const RendererRow& row = rendererRow(note.renderer);
+    // Only a USD export's renderer tells one file from many.
+    const bool singleFile = usd && exportJob->imageSingleOutputFile;
+    job->renderApp.appName.set(*(singleFile ? row.singleFileApplication : row.application));
+    if (usd)
         job->renderApp.rendererName.set(lop ? lop->renderer : QString());
     writeAovChannels(d, *job);
     job->splitImageFileInto_DirFileExt(true);
@@ -227,8 +200,7 @@ LoadResult makeDriverJobs(Driver& d)
         own.imageUsesTake = d.scene.takeFound;
         d.scene.lops.addLOP(own);
         d.scene.lops.addLOPFromOutNode(d.path, d.path);
-        d.isUSD = true;
-        d.isPicture = false;
+        d.marked = (d.marked | bit(Renderer::Usd)) & ~bit(Renderer::OpenGl);
     }
     if (!isUsableOutput(d.imagePath) || (d.exportMode && !isUsableOutput(d.exportPath))) {
         d.scene.emptyDriverFound = true;

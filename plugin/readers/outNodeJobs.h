@@ -3,6 +3,7 @@
 #pragma once
 
 #include "plugin/loadResult.h"
+#include "plugin/renderers.h"
 #include "plugin/scene.h"
 
 #include <QString>
@@ -45,15 +46,12 @@ struct Driver
     QString aovSuffix[AovSlots];
     QString aovFormat[AovSlots];
 
-    bool isArnold = false;
-    bool isRedshift = false;
+    /// The renderers the section's lines have named so far; the first in
+    /// table order is the driver's.
+    RendererSet marked = 0;
     bool prependPicture = false; ///< Redshift: picture values go in front of the path
-    bool isVRay = false;
-    bool isRenderMan = false;
-    bool isUSD = false;
-    bool isPicture = false;
-    bool isGeometry = false;
-    bool isAlembic = false;
+
+    bool marks(Renderer r) const { return (marked & bit(r)) != 0; }
 };
 
 /// The end of a driver's section: its own LOP entry for a Karma driver, then

@@ -42,7 +42,7 @@ Step picture(Driver& d, const QString& line)
     const bool accepted
         = replaceImageOutVars(line, d.prependPicture, d.imagePath, d.scene.takeFound, singleFile);
     // An Alembic archive without a frame token holds the whole range in one file.
-    if (d.isAlembic && accepted && singleFile)
+    if (d.marks(Renderer::Alembic) && accepted && singleFile)
         d.isSingleFile = true;
     return Step::Next;
 }
@@ -189,7 +189,7 @@ Step usdOutput(Driver& d, const QString& line)
     bool singleFile = false;
     if (replaceImageOutVars(line, false, d.exportPath, d.scene.takeFound, singleFile))
         d.isSingleFile = singleFile;
-    d.isUSD = true;
+    d.marked |= bit(Renderer::Usd);
     d.exportMode = true;
     return Step::Next;
 }
@@ -226,13 +226,14 @@ Step filePerFrame(Driver& d, const QString& line)
     return Step::Next;
 }
 
-/// A scene-description file; the first accepted one wins (later lines meet rule 33).
+/// A scene-description file; the first accepted one wins (later lines meet the
+/// rule that ignores every line once an export file is known).
 Step exportFile(Driver& d, const QString& line)
 {
     bool singleFile = false;
     const bool accepted
         = replaceImageOutVars(line, false, d.exportPath, d.scene.takeFound, singleFile);
-    if (d.isVRay && accepted && singleFile)
+    if (d.marks(Renderer::VRay) && accepted && singleFile)
         d.isSingleFile = true;
     return Step::Next;
 }
@@ -293,11 +294,11 @@ Step aov(Driver& d, const QString& line)
 
 using Handler = Step (*)(Driver&, const QString&);
 
-/// A line that also tells the renderer: its flag is set before the value is read.
-template <bool Driver::*Flag, Handler Then>
-Step flagThen(Driver& d, const QString& line)
+/// A line that also names the renderer: it is marked before the value is read.
+template <Renderer R, Handler Then>
+Step markThen(Driver& d, const QString& line)
 {
-    d.*Flag = true;
+    d.marked |= bit(R);
     return Then(d, line);
 }
 
@@ -305,7 +306,7 @@ Step flagThen(Driver& d, const QString& line)
 template <Handler Then>
 Step redshiftThen(Driver& d, const QString& line)
 {
-    d.isRedshift = true;
+    d.marked |= bit(Renderer::Redshift);
     d.prependPicture = true;
     return Then(d, line);
 }
@@ -326,65 +327,63 @@ using Condition = bool (*)(const Driver&);
 
 struct Rule
 {
-    int number; ///< the rule's place in the order, for the reader of this table
     std::array<QLatin1String, 2> keywords; ///< none: any line
     Condition when; ///< null: always
     Handler handle; ///< null: the line is taken and ignored
 };
 
+/// A renderer's export toggles count until a renderer that blocks them was named.
+template <Renderer R>
+Rule toggleRule()
+{
+    return { rendererRow(R).exportToggles,
+        [](const Driver& d) { return (d.marked & rendererRow(R).blockedBy) == 0; }, exportToggle };
+}
+
 const Rule Rules[] = {
-    { 1, { "trange"_L1 }, nullptr, frameRangeMode },
-    { 2, { "f\t"_L1 }, ownFrameRange, frameNumbers },
-    { 3, { "vm_picture\t"_L1 }, nullptr, picture },
-    { 4, { "copoutput\t"_L1 }, nullptr, picture },
-    { 5, { "ar_picture\t"_L1 }, nullptr, flagThen<&Driver::isArnold, picture> },
-    { 6, { "RS_outputFileNamePrefix\t"_L1 }, nullptr, redshiftThen<picture> },
-    { 7, { "picture\t"_L1 }, nullptr, flagThen<&Driver::isPicture, picture> },
-    { 8, { "sopoutput\t"_L1 }, nullptr, flagThen<&Driver::isGeometry, picture> },
-    { 9, { "file\t"_L1 }, nullptr, flagThen<&Driver::isGeometry, picture> },
-    { 10, { "filename\t"_L1 }, nullptr, flagThen<&Driver::isAlembic, picture> },
-    { 11, { "SettingsOutput_img_file_path\t"_L1 }, nullptr, flagThen<&Driver::isVRay, picture> },
-    { 12, { "outputimage\t"_L1 }, nullptr, flagThen<&Driver::isUSD, picture> },
-    { 13, { "ri_display_0\t"_L1, "ri_display\t"_L1 }, nullptr,
-        flagThen<&Driver::isRenderMan, picture> },
-    { 14, { "take\t"_L1 }, nullptr, take },
-    { 15, { "camera\t"_L1, "RS_renderCamera\t"_L1 }, nullptr, camera },
-    { 16, { "RS_outputFileFormat\t"_L1 }, nullptr, redshiftExtension },
-    { 17, { "loppath\t"_L1 }, nullptr, lopLink },
-    { 18, { "lopoutput\t"_L1 }, nullptr, usdOutput },
-    { 19, { "renderer\t"_L1 }, nullptr, lopRenderer },
-    { 20, { "soho_outputmode"_L1 },
-        [](const Driver& d) { return !d.isArnold && !d.isVRay && !d.isRenderMan && !d.isRedshift; },
-        exportToggle },
-    { 21, { "ar_ass_export_enable\t"_L1 },
-        [](const Driver& d) { return !d.isRenderMan && !d.isVRay && !d.isRedshift; },
-        exportToggle },
-    { 22, { "RS_archive_enable\t"_L1 },
-        [](const Driver& d) { return !d.isRenderMan && !d.isArnold && !d.isVRay; }, exportToggle },
-    { 23, { "rib_outputmode\t"_L1 },
-        [](const Driver& d) { return !d.isArnold && !d.isVRay && !d.isRedshift; }, exportToggle },
-    { 24, { "diskfile\t"_L1 },
-        [](const Driver& d) { return !d.isArnold && !d.isVRay && !d.isRedshift; }, exportToggle },
-    { 25, { "render_export_mode\t"_L1 }, nullptr, vrayExportMode },
-    { 26, { "fileperframe\t"_L1 }, nullptr, filePerFrame },
-    { 27, { "res_override\t"_L1, "RS_overrideRes\t"_L1 }, nullptr, resolution },
-    // The resolution toggle and fraction belong with rule 27 and, like it,
-    // must not be hidden by an export file read earlier (rule 33).
-    { 27, { "override_camerares\t"_L1, "RS_overrideCameraRes\t"_L1 }, nullptr, resolutionToggle },
-    { 27, { "res_fraction\t"_L1 }, nullptr, resolutionFraction },
-    { 28, { aovKeyword(AovPart::ArnoldFile) }, nullptr, aov<AovPart::ArnoldFile> },
-    { 29, { aovKeyword(AovPart::RedshiftPrefix) }, nullptr, aov<AovPart::RedshiftPrefix> },
-    { 30, { aovKeyword(AovPart::RedshiftSuffix) }, nullptr, aov<AovPart::RedshiftSuffix> },
-    { 31, { aovKeyword(AovPart::RedshiftFormat) }, nullptr, aov<AovPart::RedshiftFormat> },
+    { { "trange"_L1 }, nullptr, frameRangeMode },
+    { { "f\t"_L1 }, ownFrameRange, frameNumbers },
+    { { "vm_picture\t"_L1 }, nullptr, picture },
+    { { "copoutput\t"_L1 }, nullptr, picture },
+    { { "ar_picture\t"_L1 }, nullptr, markThen<Renderer::Arnold, picture> },
+    { { "RS_outputFileNamePrefix\t"_L1 }, nullptr, redshiftThen<picture> },
+    { { "picture\t"_L1 }, nullptr, markThen<Renderer::OpenGl, picture> },
+    { { "sopoutput\t"_L1 }, nullptr, markThen<Renderer::Geometry, picture> },
+    { { "file\t"_L1 }, nullptr, markThen<Renderer::Geometry, picture> },
+    { { "filename\t"_L1 }, nullptr, markThen<Renderer::Alembic, picture> },
+    { { "SettingsOutput_img_file_path\t"_L1 }, nullptr, markThen<Renderer::VRay, picture> },
+    { { "outputimage\t"_L1 }, nullptr, markThen<Renderer::Usd, picture> },
+    { { "ri_display_0\t"_L1, "ri_display\t"_L1 }, nullptr, markThen<Renderer::RenderMan, picture> },
+    { { "take\t"_L1 }, nullptr, take },
+    { { "camera\t"_L1, "RS_renderCamera\t"_L1 }, nullptr, camera },
+    { { "RS_outputFileFormat\t"_L1 }, nullptr, redshiftExtension },
+    { { "loppath\t"_L1 }, nullptr, lopLink },
+    { { "lopoutput\t"_L1 }, nullptr, usdOutput },
+    { { "renderer\t"_L1 }, nullptr, lopRenderer },
+    toggleRule<Renderer::Mantra>(),
+    toggleRule<Renderer::Arnold>(),
+    toggleRule<Renderer::Redshift>(),
+    toggleRule<Renderer::RenderMan>(),
+    { { "render_export_mode\t"_L1 }, nullptr, vrayExportMode },
+    { { "fileperframe\t"_L1 }, nullptr, filePerFrame },
+    { { "res_override\t"_L1, "RS_overrideRes\t"_L1 }, nullptr, resolution },
+    // The resolution toggle and fraction belong with the size and, like it,
+    // must not be hidden by an export file read earlier.
+    { { "override_camerares\t"_L1, "RS_overrideCameraRes\t"_L1 }, nullptr, resolutionToggle },
+    { { "res_fraction\t"_L1 }, nullptr, resolutionFraction },
+    { { aovKeyword(AovPart::ArnoldFile) }, nullptr, aov<AovPart::ArnoldFile> },
+    { { aovKeyword(AovPart::RedshiftPrefix) }, nullptr, aov<AovPart::RedshiftPrefix> },
+    { { aovKeyword(AovPart::RedshiftSuffix) }, nullptr, aov<AovPart::RedshiftSuffix> },
+    { { aovKeyword(AovPart::RedshiftFormat) }, nullptr, aov<AovPart::RedshiftFormat> },
     // An Alembic driver with these lines reads geometry in rather than writing it.
-    { 32, { "objectPath"_L1, "missing_texture_color"_L1 },
-        [](const Driver& d) { return d.isAlembic; }, abandon },
+    { { "objectPath"_L1, "missing_texture_color"_L1 },
+        [](const Driver& d) { return d.marks(Renderer::Alembic); }, abandon },
     // Once a scene-description file is known, later file lines are not read.
-    { 33, {}, [](const Driver& d) { return !d.exportPath.isEmpty(); }, nullptr },
-    { 34, { "soho_diskfile\t"_L1 }, nullptr, exportFile },
-    { 35, { "ar_ass_file"_L1 }, nullptr, flagThen<&Driver::isArnold, exportFile> },
-    { 36, { "RS_archive_file"_L1 }, nullptr, redshiftThen<exportFile> },
-    { 37, { "render_export_filepath"_L1 }, nullptr, flagThen<&Driver::isVRay, exportFile> },
+    { {}, [](const Driver& d) { return !d.exportPath.isEmpty(); }, nullptr },
+    { { "soho_diskfile\t"_L1 }, nullptr, exportFile },
+    { { "ar_ass_file"_L1 }, nullptr, markThen<Renderer::Arnold, exportFile> },
+    { { "RS_archive_file"_L1 }, nullptr, redshiftThen<exportFile> },
+    { { "render_export_filepath"_L1 }, nullptr, markThen<Renderer::VRay, exportFile> },
 };
 
 /// The rules a line may meet, by its first byte: most lines of a section begin

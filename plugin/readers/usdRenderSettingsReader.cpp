@@ -1,9 +1,9 @@
 #include "plugin/elements/elementSection.h"
 #include "plugin/jobWalk.h"
 #include "plugin/parameterLine.h"
-#include "plugin/parserState.h"
 #include "plugin/paths/houdiniVariables.h"
 #include "plugin/paths/imageTokens.h"
+#include "plugin/renderers.h"
 #include "readerCommon.h"
 #include "sectionLoop.h"
 
