@@ -1,5 +1,6 @@
 #include "scanner.h"
 
+#include "shared/zkAscii.h"
 #include "shared/zkShared.h"
 
 #include <array>
@@ -48,7 +49,7 @@ const std::array<std::string, std::size(RendererMarkers)>& foldedMarkers()
         std::array<std::string, std::size(RendererMarkers)> all;
         for (size_t i = 0; i < all.size(); ++i) {
             for (const char* c = RendererMarkers[i]; *c; ++c)
-                all[i] += char(*c >= 'A' && *c <= 'Z' ? *c - 'A' + 'a' : *c);
+                all[i] += zkAscii::lower(*c);
         }
         return all;
     }();
@@ -85,7 +86,7 @@ public:
                 break;
             }
             bytes[i] = char(c);
-            lower[i] = char(c >= u'A' && c <= u'Z' ? c - u'A' + u'a' : c);
+            lower[i] = char(zkAscii::lower(c));
         }
     }
 
@@ -103,10 +104,8 @@ public:
             return line.contains(QLatin1String(needle), Qt::CaseInsensitive);
         char folded[32];
         size_t n = 0;
-        for (; needle[n] && n < sizeof(folded); ++n) {
-            const char c = needle[n];
-            folded[n] = c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c;
-        }
+        for (; needle[n] && n < sizeof(folded); ++n)
+            folded[n] = zkAscii::lower(needle[n]);
         return std::string_view(lower, size_t(line.size())).find(std::string_view(folded, n))
             != std::string_view::npos;
     }
@@ -185,7 +184,7 @@ qsizetype findSetGlobal(QStringView line)
         if (dash + 2 >= line.size())
             return -1;
         if (line[dash - 1] != u' ' || line[dash + 2] != u' '
-            || (line[dash + 1].unicode() | 0x20) != u'g')
+            || zkAscii::lower(line[dash + 1].unicode()) != u'g')
             continue;
         const QStringView candidate = line.mid(dash - DashOffset, key.size());
         if (candidate.compare(key, Qt::CaseInsensitive) == 0)
@@ -303,7 +302,7 @@ Then takeFrameRange(QStringView line, ScanStep& step)
 {
     // Only "frange" and a blank is the scene's range: node parameters named
     // "frange" ("frange\t[ 0 ...") would reset every driver's range.
-    if ((line.front().unicode() | 0x20) == u'f'
+    if (zkAscii::lower(line.front().unicode()) == u'f'
         && line.startsWith(QStringView(u"frange "), Qt::CaseInsensitive))
         readFrameRange(line, step.scene);
     return Then::NextRule;

@@ -415,8 +415,8 @@ struct RuleIndex
     {
         for (QLatin1String keyword : rule.keywords) {
             if (!keyword.isEmpty()
-                && sectionLoop::asciiLower(static_cast<unsigned char>(keyword.front().toLatin1()))
-                    == sectionLoop::asciiLower(b))
+                && zkAscii::lower(static_cast<unsigned char>(keyword.front().toLatin1()))
+                    == zkAscii::lower(b))
                 return true;
         }
         return false;
