@@ -147,7 +147,7 @@ void compressExport(zkJ::_JobBasics_largePath& job)
 /// driver left open and, for a stereo rig, the eye tokens.
 void completeCamera(zkJ::_JobBasics_largePath& job, const Scene& scene, const JobNote& note)
 {
-    const int index = scene.cameras.findCamIndexByRenderNode(job.layer.toQString());
+    const int index = scene.cameras.findByDriver(job.layer.toQString());
     if (index < 0)
         return;
     const CameraNode& cam = scene.cameras.list.at(index);

@@ -160,7 +160,7 @@ LoadResult fanOutWedges(Scene& scene)
                     return LoadNoJobRecord;
                 copy->sceneState.set(wedge.nodePath + u'*' + QString::number(k));
                 const QString number = QString::number(k);
-                const QString name = wedge.getWedgeFileName(k);
+                const QString name = wedge.fileName(k);
                 editWedgePaths(*copy, [&](QString& text) {
                     text.replace(WedgeNumBraced, number);
                     text.replace(WedgeNum, number);

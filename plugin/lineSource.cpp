@@ -425,29 +425,6 @@ LineSource::LineSource(QTextStream& stream)
     buffer.resize(Padding, '\0');
 }
 
-bool LineSource::next(QString& line)
-{
-    QByteArrayView raw;
-    if (!nextRaw(raw)) {
-        line.clear();
-        return false;
-    }
-    line = decode(raw);
-    return true;
-}
-
-QByteArrayView LineSource::trimmedAscii(QByteArrayView raw)
-{
-    const auto blank = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
-    qsizetype first = 0;
-    qsizetype last = raw.size();
-    while (first < last && blank(raw[first]))
-        ++first;
-    while (last > first && blank(raw[last - 1]))
-        --last;
-    return raw.sliced(first, last - first);
-}
-
 qsizetype LineSource::findNewline(qsizetype from)
 {
 #ifdef ZK_HAVE_AVX2_PATH
@@ -533,13 +510,6 @@ void LineSource::useVectorSearch(bool on)
 #else
     (void)on;
 #endif
-}
-
-bool LineSource::atEnd()
-{
-    if (pos < size)
-        return false;
-    return !fill();
 }
 
 void LineSource::dropConsumed()

@@ -19,7 +19,7 @@ bool isExcludedCamera(const _zkString8_allSize<150>& name)
 
 } // namespace
 
-int CameraList::findCamIndex(_zkString8_allSize<150> const& name)
+int CameraList::findByName(_zkString8_allSize<150> const& name)
 {
     const QString key = name.toQString();
     const int found
@@ -31,18 +31,14 @@ int CameraList::findCamIndex(_zkString8_allSize<150> const& name)
     return int(list.size()) - 1;
 }
 
-int CameraList::findCamIndexByRenderNode(QString const& driverPath) const
+int CameraList::findByDriver(QString const& driverPath) const
 {
     return elementSection::findByRenderNode(list, byDriver, driverPath);
 }
 
-void CameraList::addCamFromOutNode(_zkString8_allSize<150> camera, QString const& driverPath)
+void CameraList::addDriver(const _zkString8_allSize<150>& camera, QString const& driverPath)
 {
-    if (camera.startsWith("`chsop(\\")) {
-        camera.remove(0, 9);
-        camera.setLength(short(camera.length - 1));
-    }
-    const int index = findCamIndex(camera);
+    const int index = findByName(camera);
     name(index, camera);
     elementSection::addRenderNode(list, byDriver, index, driverPath);
 }
@@ -53,11 +49,11 @@ void CameraList::name(int index, const _zkString8_allSize<150>& name)
     byName.note(name.toQString(), index);
 }
 
-void CameraList::addCam(CameraNode& cam)
+void CameraList::add(CameraNode& cam)
 {
     if (isExcludedCamera(cam.name))
         return;
-    const int index = findCamIndex(cam.name);
+    const int index = findByName(cam.name);
     name(index, cam.name);
     CameraNode& entry = list[index];
     entry.resX = cam.resX;

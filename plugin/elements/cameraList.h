@@ -21,10 +21,10 @@ struct CameraNode
 class CameraList
 {
 public:
-    int findCamIndex(_zkString8_allSize<150> const& name);
-    int findCamIndexByRenderNode(QString const& driverPath) const;
-    void addCamFromOutNode(_zkString8_allSize<150> camera, QString const& driverPath);
-    void addCam(CameraNode& cam);
+    int findByName(_zkString8_allSize<150> const& name);
+    int findByDriver(QString const& driverPath) const;
+    void addDriver(const _zkString8_allSize<150>& camera, QString const& driverPath);
+    void add(CameraNode& cam);
 
     /// Add through the members above: they keep the lookups' indexes.
     QList<CameraNode> list;

@@ -32,40 +32,40 @@ void LopNode::setRenderer(QString const& hint)
     }
 }
 
-QString LopNode::rendererName_render() const
+QString LopNode::renderName() const
 {
     if (renderer.isEmpty())
         return QStringLiteral("usd");
     return QStringLiteral("usd_") + renderer;
 }
 
-QString LopNode::rendererName_create() const
+QString LopNode::exportName() const
 {
     if (renderer.isEmpty())
         return QStringLiteral("createUSD");
     return QStringLiteral("createUSD_") + renderer;
 }
 
-int LopList::findLOPIndex(QString const& nodePath, bool const& create)
+int LopList::findByPath(QString const& nodePath, bool const& create)
 {
     return elementSection::findByNodePath(list, byPath, nodePath, create);
 }
 
-int LopList::findLOPIndexByRenderNode(QString const& driverPath) const
+int LopList::findByDriver(QString const& driverPath) const
 {
     return elementSection::findByRenderNode(list, byDriver, driverPath);
 }
 
-int LopList::addLOPFromOutNode(QString lopPath, QString const& driverPath)
+int LopList::addDriver(QString lopPath, QString const& driverPath)
 {
-    const int index = findLOPIndex(elementSection::unwrapChsop(lopPath), true);
+    const int index = findByPath(elementSection::unwrapChsop(lopPath), true);
     elementSection::addRenderNode(list, byDriver, index, driverPath);
     return index;
 }
 
-void LopList::addLOP(LopNode& node)
+void LopList::add(LopNode& node)
 {
-    LopNode& entry = list[findLOPIndex(node.nodePath, true)];
+    LopNode& entry = list[findByPath(node.nodePath, true)];
     entry.nodePath = node.nodePath;
     entry.imageOut = node.imageOut;
     entry.imageUsesTake = node.imageUsesTake;

@@ -16,17 +16,17 @@ struct LopNode
     QStringList renderNodes;
 
     void setRenderer(QString const& hint);
-    QString rendererName_render() const;
-    QString rendererName_create() const;
+    QString renderName() const;
+    QString exportName() const;
 };
 
 class LopList
 {
 public:
-    int findLOPIndex(QString const& nodePath, bool const& create);
-    int findLOPIndexByRenderNode(QString const& driverPath) const;
-    int addLOPFromOutNode(QString lopPath, QString const& driverPath);
-    void addLOP(LopNode& node);
+    int findByPath(QString const& nodePath, bool const& create);
+    int findByDriver(QString const& driverPath) const;
+    int addDriver(QString lopPath, QString const& driverPath);
+    void add(LopNode& node);
 
     /// Add through the members above: they keep the lookups' indexes.
     QList<LopNode> list;

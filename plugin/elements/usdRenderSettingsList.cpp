@@ -2,24 +2,9 @@
 
 #include "elementSection.h"
 
-void RenderSettingsNode::clear()
-{
-    camera.clear();
-    imageUsesTake = false;
-    archiveControlSet = false;
-    spareFlag = false;
-}
-
 int RenderSettingsList::findIndex(QString const& nodePath, bool const& create)
 {
     return elementSection::findByNodePath(list, byPath, nodePath, create);
-}
-
-int RenderSettingsList::addFromROP(QString name, QString const& driverPath)
-{
-    const int index = findIndex(elementSection::unwrapChsop(name), true);
-    list[index].renderNodes.append(driverPath);
-    return index;
 }
 
 int RenderSettingsList::add(RenderSettingsNode& node)

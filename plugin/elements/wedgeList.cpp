@@ -2,7 +2,7 @@
 
 #include <climits>
 
-double WedgeParameter::valueIdx(int const& i) const
+double WedgeParameter::valueAt(int const& i) const
 {
     // One step divides by zero on purpose: the value is then not a number
     // and shows as "nan" in the file-name fragment.
@@ -31,7 +31,7 @@ int WedgeNode::totalWedges()
     return total;
 }
 
-QString WedgeNode::getWedgeFileName(int index)
+QString WedgeNode::fileName(int index)
 {
     QString name = prefix;
     long long rest = index;
@@ -43,7 +43,7 @@ QString WedgeNode::getWedgeFileName(int index)
             step = rest % p.steps;
             rest /= p.steps;
         }
-        name += QStringLiteral("_%1_%2").arg(p.name).arg(p.valueIdx(int(step)), 0, 'f', 6);
+        name += QStringLiteral("_%1_%2").arg(p.name).arg(p.valueAt(int(step)), 0, 'f', 6);
     }
     return name;
 }

@@ -11,7 +11,7 @@ struct WedgeParameter
     double rangeEnd = 0.0;
     int steps = 0;
 
-    double valueIdx(int const& i) const;
+    double valueAt(int const& i) const;
 };
 
 struct WedgeNode
@@ -24,5 +24,5 @@ struct WedgeNode
     int total = -1;
 
     int totalWedges();
-    QString getWedgeFileName(int index);
+    QString fileName(int index);
 };

@@ -36,6 +36,6 @@ LoadResult readCameraSection(Scene& scene, LineSource& in, QString& line)
           });
     // A camera cut off by the end of the file is not trusted.
     if (end == sectionLoop::SectionEnd::Closed)
-        scene.cameras.addCam(cam);
+        scene.cameras.add(cam);
     return LoadOk;
 }

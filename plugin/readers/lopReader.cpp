@@ -21,6 +21,6 @@ LoadResult readLopSection(Scene& scene, LineSource& in, QString& line)
             return true;
         });
     if (end == sectionLoop::SectionEnd::Closed)
-        scene.lops.addLOP(node);
+        scene.lops.add(node);
     return LoadOk;
 }

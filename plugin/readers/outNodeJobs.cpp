@@ -84,7 +84,7 @@ void writeAovChannels(Driver& d, zkJ::_JobBasics_largePath& job)
 const LopNode* linkedLop(const Driver& d)
 {
     const LopList& lops = d.scene.lops;
-    const int index = lops.findLOPIndexByRenderNode(d.path);
+    const int index = lops.findByDriver(d.path);
     return index < 0 ? nullptr : &lops.list.at(index);
 }
 
@@ -93,7 +93,7 @@ QString renderRendererName(const Driver& d, zkJ::_JobBasics_largePath& job)
     const Renderer renderer = firstRenderer(d.marked, false);
     if (renderer == Renderer::Usd) {
         const LopNode* lop = linkedLop(d);
-        return lop ? lop->rendererName_render() : QString();
+        return lop ? lop->renderName() : QString();
     }
     if (renderer == Renderer::Alembic && d.isSingleFile) {
         job.imageSingleOutputFile = true;
@@ -110,7 +110,7 @@ void setExportRenderer(Driver& d, zkJ::_JobBasics_largePath& job, zkJ::_JobBasic
     const Renderer renderer = firstRenderer(d.marked, true);
     if (renderer == Renderer::Usd) {
         const LopNode* lop = linkedLop(d);
-        name.set(lop ? lop->rendererName_create() : QString(rendererRow(renderer).exportName));
+        name.set(lop ? lop->exportName() : QString(rendererRow(renderer).exportName));
         if (d.isSingleFile)
             job.imageSingleOutputFile = true;
         if (name.indexOf(_zkString<25>("redshift"), 0) < 0 || !d.exportPath.endsWith(".rs"_L1))
@@ -198,8 +198,8 @@ LoadResult makeDriverJobs(Driver& d)
         own.nodePath = d.path;
         own.imageOut = d.imagePath;
         own.imageUsesTake = d.scene.takeFound;
-        d.scene.lops.addLOP(own);
-        d.scene.lops.addLOPFromOutNode(d.path, d.path);
+        d.scene.lops.add(own);
+        d.scene.lops.addDriver(d.path, d.path);
         d.marked = (d.marked | bit(Renderer::Usd)) & ~bit(Renderer::OpenGl);
     }
     if (!isUsableOutput(d.imagePath) || (d.exportMode && !isUsableOutput(d.exportPath))) {

@@ -145,12 +145,11 @@ Step camera(Driver& d, const QString& line)
 {
     const QString v = parameterLine::withoutSelfReference(
         unquotedBracketValue(line), parameterLine::parameterName(line));
-    // A camera chosen by an expression cannot be resolved without Houdini.
-    if (v.contains("chs("_L1) || v.contains("chsop("_L1))
+    if (parameterLine::isChannelExpression(v))
         return Step::Next;
     d.proxyCamera = v.startsWith("proxy_export"_L1, Qt::CaseInsensitive);
     if (!d.proxyCamera)
-        d.scene.cameras.addCamFromOutNode(_zkString8_allSize<150>(v), d.path);
+        d.scene.cameras.addDriver(_zkString8_allSize<150>(v), d.path);
     return Step::Next;
 }
 
@@ -176,7 +175,7 @@ Step lopLink(Driver& d, const QString& line)
     const QString v = unquotedBracketValue(line);
     if (!v.contains("/hdprman"_L1))
         return Step::Next;
-    const int index = d.scene.lops.addLOPFromOutNode(v, d.path);
+    const int index = d.scene.lops.addDriver(v, d.path);
     const QString& imageOut = d.scene.lops.list.at(index).imageOut;
     if (!imageOut.isEmpty())
         d.imagePath = imageOut;
@@ -198,7 +197,7 @@ Step usdOutput(Driver& d, const QString& line)
 Step lopRenderer(Driver& d, const QString& line)
 {
     const QString v = unquotedBracketValue(line);
-    const int index = d.scene.lops.addLOPFromOutNode(v, d.path);
+    const int index = d.scene.lops.addDriver(v, d.path);
     d.scene.lops.list[index].setRenderer(v);
     return Step::Next;
 }

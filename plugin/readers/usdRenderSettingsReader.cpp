@@ -1,9 +1,6 @@
 #include "plugin/elements/elementSection.h"
-#include "plugin/jobWalk.h"
 #include "plugin/parameterLine.h"
-#include "plugin/paths/houdiniVariables.h"
 #include "plugin/paths/imageTokens.h"
-#include "plugin/renderers.h"
 #include "readerCommon.h"
 #include "sectionLoop.h"
 
@@ -46,33 +43,6 @@ QString settingValue(const QString& line)
         parameterLine::unquotedBracketValue(line), parameterLine::parameterName(line));
 }
 
-/// The archive file becomes the image output of every Houdini job of the
-/// entry's first registered driver, expanded and split again. 7 when the
-/// array yields no record for an index below its count.
-LoadResult rewriteDriverJobs(Scene& scene, const RenderSettingsNode& entry)
-{
-    if (entry.renderNodes.isEmpty())
-        return LoadOk;
-
-    const _zkString<25> houdini(appNameHoudini);
-    const _zkString<150> driver(entry.renderNodes.first());
-    const _zkString<1000> name(houdiniNodeName(entry.nodePath));
-    zkJ::_JobBasicsArray& jobs = scene.jobs;
-    return forEachJob(jobs, [&](zkJ::_JobBasics_largePath& job, int) {
-        if (!job.renderApp.appName.isEqual(houdini) || !job.layer.isEqual(driver))
-            return LoadOk;
-        job.imageFileName.set(entry.archiveFile);
-        job.imageDir.clear();
-        job.imageExtension.clear();
-        job.imageFileName.replace(_zkString<1000>("$OS"), name);
-        job.imageFileName.replace(_zkString<1000>("${OS}"), name);
-        job.imageFileName.set(replaceHoudiniVariables(
-            job.imageFileName.toQString(), &job, scene.variables, scene.sceneFile));
-        job.splitImageFileInto_DirFileExt(true);
-        return LoadOk;
-    });
-}
-
 } // namespace
 
 LoadResult readRenderSettingsSection(Scene& scene, LineSource& in, QString& line)
@@ -91,9 +61,7 @@ LoadResult readRenderSettingsSection(Scene& scene, LineSource& in, QString& line
               switch (classify(l)) {
               case RSKeyword::Camera: {
                   const QString camera = settingValue(l.text());
-                  // A channel expression names no camera the plugin could resolve.
-                  if (!camera.contains(QLatin1String("chs("))
-                      && !camera.contains(QLatin1String("chsop(")))
+                  if (!parameterLine::isChannelExpression(camera))
                       node.camera = camera;
                   break;
               }
@@ -115,8 +83,7 @@ LoadResult readRenderSettingsSection(Scene& scene, LineSource& in, QString& line
               }
               return true;
           });
-    if (end != sectionLoop::SectionEnd::Closed)
-        return LoadOk;
-    const int index = scene.renderSettings.add(node);
-    return rewriteDriverJobs(scene, scene.renderSettings.list.at(index));
+    if (end == sectionLoop::SectionEnd::Closed)
+        scene.renderSettings.add(node);
+    return LoadOk;
 }

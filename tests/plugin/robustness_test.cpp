@@ -66,16 +66,6 @@ protected:
         ctx.data = &record;
         ctx.scenePath = scenePath.toQString();
         Scene scene(ctx);
-        // A registered driver with a job makes the render-settings reader
-        // rewrite that job, so damaged archive paths reach the split too.
-        scene.renderSettings.addFromROP(
-            QStringLiteral("/stage/rendersettings1"), QStringLiteral("/out/mantra1"));
-        zkJ::_JobBasics_largePath* job = nullptr;
-        if (!jobs.getNewJob(job))
-            return -1;
-        job->renderApp.appName.setLatin1("Houdini");
-        job->layer.set(QStringLiteral("/out/mantra1"));
-        job->sceneDatabaseDir.set(QStringLiteral("/proj/shot/"));
         const LoadResult result = scanScene(scene, lines.source, SectionReaders(), mode);
         state = zkTest::describeScan(result, scene);
         lists = { scene.cameras.list.size(), scene.lops.list.size(),
@@ -94,9 +84,11 @@ protected:
 TEST_F(HostileScene, ValidSceneFillsEveryList)
 {
     ASSERT_EQ(scan(ValidScene), 1);
-    EXPECT_EQ(jobs.records[0].imageFileName.toQString(), QStringLiteral("a."));
-    EXPECT_EQ(jobs.records[0].imageDir.toQString(), QStringLiteral("<Database>/"));
-    EXPECT_EQ(jobs.records[0].imageExtension.toQString(), QStringLiteral(".rs"));
+    // The driver's "$HIP/render/\u00e9.$F4.exr": "$HIP/" is the scene's folder, "<Database>".
+    ASSERT_EQ(jobs.count, 1);
+    EXPECT_EQ(jobs.records[0].imageDir.toQString(), QStringLiteral("<Database>render/"));
+    EXPECT_EQ(jobs.records[0].imageFileName.toQString(), QStringLiteral("\u00e9."));
+    EXPECT_EQ(jobs.records[0].imageExtension.toQString(), QStringLiteral(".exr"));
     EXPECT_EQ(lists, (std::vector<qsizetype> { 2, 1, 1, 1 }));
 }
 

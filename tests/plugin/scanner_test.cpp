@@ -21,7 +21,12 @@ LoadResult fakeOut(Scene& scene, LineSource& in, QString& line)
     recorded.major = scene.houdiniMajor;
     recorded.minor = scene.houdiniMinorForReaders;
     scene.takeFound = true;
-    while (in.next(line) && !line.startsWith(u'}')) { }
+    QByteArrayView raw;
+    while (in.nextRaw(raw)) {
+        line = LineSource::decode(raw);
+        if (line.startsWith(u'}'))
+            break;
+    }
     return static_cast<LoadResult>(recorded.result);
 }
 

@@ -23,8 +23,7 @@ QString describeScan(LoadResult result, const Scene& scan)
             << l.imageUsesTake << ' ' << list(l.renderNodes) << '\n';
     for (const RenderSettingsNode& r : scan.renderSettings.list)
         out << "rs " << r.nodePath << ' ' << r.camera << ' ' << r.imageUsesTake << r.archiveEnabled
-            << r.archiveControlSet << r.spareFlag << ' ' << r.archiveFile << ' '
-            << list(r.renderNodes) << '\n';
+            << r.archiveControlSet << ' ' << r.archiveFile << '\n';
     for (const WedgeNode& w : scan.wedges) {
         out << "wedge " << w.prefix << ' ' << w.nodePath << ' ' << w.driver << ' ' << w.wedgeMethod;
         for (const WedgeParameter& p : w.params)

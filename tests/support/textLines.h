@@ -3,7 +3,6 @@
 //     zkTest::TextLines lines("picture\t[ 0 ]\t(\t\"a.exr\"\t)\n}\n");
 //     QString header = QStringLiteral("out/mantra1.parm {");
 //     readDriverSection(scene, lines.source, header);
-//     EXPECT_TRUE(lines.source.atEnd());
 #pragma once
 
 #include "plugin/lineSource.h"

@@ -50,7 +50,7 @@ TEST(WedgeArithmetic, TotalIsTheProductOfStepsWithinInt)
 TEST(WedgeArithmetic, NegativeStepsSplitTheIndexAsCppDivides)
 {
     // 5 % -2 == 1 and 5 / -2 == -2; then -2 % -3 == -2: 1 + -2 * 1 / (-3 - 1) = 1.5.
-    EXPECT_EQ(wedgeOf({ -2, -3 }).getWedgeFileName(5), QStringLiteral("_a_-0.333333_b_1.500000"));
+    EXPECT_EQ(wedgeOf({ -2, -3 }).fileName(5), QStringLiteral("_a_-0.333333_b_1.500000"));
 }
 
 } // namespace
