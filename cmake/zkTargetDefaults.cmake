@@ -5,7 +5,7 @@ option(ZK_FUZZ "Build the libFuzzer targets in fuzz/ (clang): everything gets co
 # The sanitizer's realloc copies the whole block on every growth, so growth to
 # 10000 records of 227 KB is quadratic there: fuzzing uses a smaller cap.
 set(ZK_FUZZ_MAX_JOB_RECORDS 16 CACHE STRING "Job record cap of the fuzz build")
-# Scenes are read in chunks of a megabyte; fuzz inputs are a few kilobytes, so
+# Scenes are read in chunks of 256 KB; fuzz inputs are a few kilobytes, so
 # the fuzz build reads small chunks of an odd size to put lines across chunk ends.
 set(ZK_FUZZ_LINE_CHUNK_BYTES 509 CACHE STRING "Bytes per read of the fuzz build's line source")
 

@@ -3,11 +3,9 @@
 // system, so this target runs many times faster than the file target.
 #include "fuzz/fuzzInput.h"
 #include "fuzz/hostChecks.h"
-#include "plugin/completion.h"
-#include "plugin/loadContext.h"
+#include "plugin/load.h"
 
 #include <QBuffer>
-#include <QTextStream>
 
 #include <cstddef>
 #include <cstdint>
@@ -28,20 +26,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     _zkString<500> scenePath(QStringLiteral("/fuzz/shot/scene.hip"));
     zkP::_dataPARS_LoadSceneFile record { &scenePath, &jobs, input.settings.get() };
 
-    int result = 0;
-    try {
-        LoadContext ctx;
-        ctx.data = &record;
-        readSubmitterArguments(ctx, record.settings);
-        ctx.scenePath = scenePath.toQString();
-        QBuffer device(&input.scene);
-        device.open(QIODevice::ReadOnly);
-        QTextStream stream(&device);
-        LineSource in(stream);
-        result = loadLines(ctx, in);
-    } catch (...) {
-        result = 6;
-    }
+    QBuffer device(&input.scene);
+    device.open(QIODevice::ReadOnly);
+    const int result = loadScene(record, &device);
     zkFuzz::checkLoad(result, jobs);
     return 0;
 }

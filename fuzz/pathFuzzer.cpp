@@ -26,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const QString line = QString::fromUtf8(lines.value(0));
     _zkString<500> scene;
     scene.set(QString::fromUtf8(lines.value(1)));
-    QList<_namevalue> variables;
+    QList<SceneVariable> variables;
     for (qsizetype i = 2; i < lines.size(); ++i) {
         const QString text = QString::fromUtf8(lines.at(i));
         const qsizetype tab = text.indexOf(u'\t');

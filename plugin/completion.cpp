@@ -1,8 +1,11 @@
 #include "completion.h"
 
-#include "plugin/parserState.h"
+#include "plugin/jobWalk.h"
+#include "plugin/renderers.h"
+#include "plugin/scene.h"
 
 #include <algorithm>
+#include <array>
 #include <climits>
 #include <cmath>
 
@@ -38,45 +41,31 @@ struct RendererVersion
     }
 };
 
-struct RendererVersions
-{
-    RendererVersion arnold;
-    RendererVersion redshift;
-    RendererVersion vray;
-    RendererVersion renderman;
-};
+using RendererVersions = std::array<RendererVersion, RendererCount>;
 
 /// "HtoA_KickVersion" of the scene, then the submitter's overrides: the last
 /// one given wins, and an override without a value behind it is ignored.
-RendererVersions rendererVersions(const QStringList& arguments)
+RendererVersions rendererVersions(const Scene& scene)
 {
+    const QStringList& arguments = scene.ctx.arguments;
     RendererVersions v;
-    for (const _namevalue& variable : qAsConst(hVariables)) {
+    for (const SceneVariable& variable : scene.variables) {
         if (variable.name.compare(QLatin1String("HtoA_KickVersion"), Qt::CaseInsensitive) == 0)
-            v.arnold.parse(variable.value);
+            v[int(Renderer::Arnold)].parse(variable.value);
     }
-    const struct
-    {
-        const char* argument;
-        RendererVersion RendererVersions::*version;
-    } overrides[] = {
-        { "-customRenVer_Arnold", &RendererVersions::arnold },
-        { "-customRenVer_Redshift", &RendererVersions::redshift },
-        { "-customRenVer_VRay", &RendererVersions::vray },
-        { "-customRenVer_prman", &RendererVersions::renderman },
-    };
     for (qsizetype i = 0; i + 1 < arguments.size(); ++i) {
-        for (const auto& o : overrides) {
-            if (arguments[i].compare(QLatin1String(o.argument), Qt::CaseInsensitive) == 0)
-                (v.*o.version).parse(arguments[i + 1]);
+        for (int r = 0; r < RendererCount; ++r) {
+            const QLatin1String argument = rendererRow(Renderer(r)).versionArgument;
+            if (!argument.isEmpty() && arguments[i].compare(argument, Qt::CaseInsensitive) == 0)
+                v[r].parse(arguments[i + 1]);
         }
     }
     return v;
 }
 
-/// What the next job needs of the job before it: an export job's output is
-/// the scene its render job reads.
-struct PreviousJob
+/// What a render job needs of its export job: the export's output is the
+/// scene the render job reads.
+struct ExportFiles
 {
     QString imagePath;
     QString extension;
@@ -93,41 +82,52 @@ struct PreviousJob
     }
 };
 
-void completeApplication(zkJ::_JobBasics_largePath& job, const PreviousJob& previous,
-    const LoadContext& ctx, const ScanResult& scan, const RendererVersions& versions)
+/// The files of the export job that \p note names; none for a job without one.
+ExportFiles exportFilesOf(const Scene& scene, const JobNote& note)
+{
+    ExportFiles files;
+    if (note.exportJob < 0)
+        return files;
+    const zkJ::_JobBasics_largePath* exportJob = scene.jobs.records + note.exportJob;
+    _zkString<1000> imagePath = exportJob->imageDir;
+    imagePath.append(exportJob->imageFileName.view());
+    files.imagePath = imagePath.toQString();
+    files.extension = exportJob->imageExtension.toQString();
+    files.singleFile = exportJob->imageSingleOutputFile;
+    files.padding = exportJob->padding;
+    return files;
+}
+
+/// Houdini's own jobs read the scene; a stand-alone render job reads its
+/// export's files and carries the version of its renderer.
+void completeApplication(zkJ::_JobBasics_largePath& job, const JobNote& note,
+    const ExportFiles& exportFiles, const Scene& scene, const RendererVersions& versions)
 {
     zkRA::_RenderAppBasic& app = job.renderApp;
-    const QString appName = app.appName.toQString();
-    if (appName == appNameHoudini) {
+    if (note.exportJob < 0) {
         job.renderLicenses.set(appNameHoudini);
-        job.sceneName.set(ctx.scenePath);
+        job.sceneName.set(scene.ctx.scenePath);
         return;
     }
-    if (appName == appNameMantra) {
-        job.renderLicenses.set(appNameMantra);
+    const Renderer renderer = note.renderer;
+    if (renderer == Renderer::Mantra) {
+        job.renderLicenses.set(*rendererRow(renderer).application);
         app.rendererName.clear();
-        job.sceneName.set(previous.sceneName(true));
+        job.sceneName.set(exportFiles.sceneName(true));
         return;
     }
     job.renderLicenses.clear();
-    const bool usd = appName == appNameUSD || appName == appNameUSDsingle;
-    if (!usd) {
+    // A USD render job keeps its render delegate as its renderer name.
+    if (renderer != Renderer::Usd) {
         app.rendererName.set(appNameHoudini_Archive);
-        app.rendererVersion.set(scan.houdiniVersion);
+        app.rendererVersion.set(scene.houdiniVersion);
     }
-    job.sceneName.set(previous.sceneName(false));
-    if (appName == appNameArnold || appName == appNameArnold_singlefile) {
+    job.sceneName.set(exportFiles.sceneName(false));
+    if (renderer == Renderer::Arnold)
         app.rendererName.setLatin1("HtoA");
-        versions.arnold.applyTo(app);
-    } else if (appName == appNameRenderman) {
-        versions.renderman.applyTo(app);
-    } else if (appName == appNameRedshift) {
-        versions.redshift.applyTo(app);
-    } else if (appName == appNameVRay) {
-        if (!previous.singleFile)
-            app.rendererName.setLatin1("multifile");
-        versions.vray.applyTo(app);
-    }
+    else if (renderer == Renderer::VRay && !exportFiles.singleFile)
+        app.rendererName.setLatin1("multifile");
+    versions[int(renderer)].applyTo(app);
 }
 
 /// Compressed scene descriptions: the export writes ".gz" files and the
@@ -137,7 +137,7 @@ void compressExport(zkJ::_JobBasics_largePath& job)
     if (job.renderApp.rendererName.view() == u"createIFD") {
         job.renderApp.rendererName.setLatin1("createIFDzip");
         job.imageExtension.append(u".gz");
-    } else if (job.renderApp.appName.view() == appNameMantra) {
+    } else if (job.renderApp.appName.view() == *rendererRow(Renderer::Mantra).application) {
         job.renderApp.rendererName.setLatin1("zip");
         job.sceneName.append(u".gz");
     }
@@ -145,15 +145,14 @@ void compressExport(zkJ::_JobBasics_largePath& job)
 
 /// The camera a driver renders through gives the job its name, the size the
 /// driver left open and, for a stereo rig, the eye tokens.
-void completeCamera(zkJ::_JobBasics_largePath& job)
+void completeCamera(zkJ::_JobBasics_largePath& job, const Scene& scene, const JobNote& note)
 {
-    const QString layer = job.layer.toQString();
-    const int index = camList.findCamIndexByRenderNode(layer);
+    const int index = scene.cameras.findByDriver(job.layer.toQString());
     if (index < 0)
         return;
-    const _camNode& cam = camList.list.at(index);
+    const CameraNode& cam = scene.cameras.list.at(index);
     job.camera.set(cam.name.toQString());
-    const double fraction = nodeResFractions.value(layer, 1.0);
+    const double fraction = note.resolutionFraction > 0 ? note.resolutionFraction : 1.0;
     const auto scaled = [fraction](int size) {
         // Halves round away from zero; the field keeps the low 16 bits.
         const double v = std::clamp(std::round(size * fraction), double(INT_MIN), double(INT_MAX));
@@ -173,53 +172,46 @@ void completeCamera(zkJ::_JobBasics_largePath& job)
 
 } // namespace
 
-LoadResult completeJobs(const LoadContext& ctx, const ScanResult& scan)
+LoadResult completeJobs(Scene& scene)
 {
-    zkJ::_JobBasicsArray& jobs = *ctx.data->jobs;
-    if (HIPFound_DisableLocalScene)
+    zkJ::_JobBasicsArray& jobs = scene.jobs;
+    if (scene.aovBesideScene)
         jobs.arrayText.append(u" \"AllowLocalSceneCopy=0~0\"");
-    if (mantraIFDJob)
+    if (scene.exportPairMade)
         jobs.arrayText.append(u" -NoSceneExistCheck ");
 
     // Longer names first, so "$SHOTDIR" is not taken for "$SHOT" followed by "DIR".
-    std::stable_sort(hVariables.begin(), hVariables.end(),
-        [](const _namevalue& a, const _namevalue& b) { return a.name.size() > b.name.size(); });
+    std::stable_sort(scene.variables.begin(), scene.variables.end(),
+        [](const SceneVariable& a, const SceneVariable& b) {
+            return a.name.size() > b.name.size();
+        });
 
-    const RendererVersions versions = rendererVersions(ctx.arguments);
+    const RendererVersions versions = rendererVersions(scene);
     // Every "JOB" variable sets the same key in turn: the last one is what stays.
     const QString* houdiniJob = nullptr;
-    for (const _namevalue& variable : qAsConst(hVariables)) {
+    for (const SceneVariable& variable : qAsConst(scene.variables)) {
         if (variable.name.compare("JOB"_L1, Qt::CaseInsensitive) == 0)
             houdiniJob = &variable.value;
     }
-    PreviousJob previous;
-    for (int i = 0; i < jobs.count; ++i) {
-        zkJ::_JobBasics_largePath* job = jobs.at(i);
-        if (!job)
-            return LoadNoJobRecord;
-        job->renderApp.versionMajor = static_cast<short>(scan.houdiniMajor);
-        job->renderApp.setVersionMinor(scan.houdiniMinorForJobs);
+    const LoadResult completed = forEachJob(jobs, [&](zkJ::_JobBasics_largePath& job, int i) {
+        job.renderApp.versionMajor = static_cast<short>(scene.houdiniMajor);
+        job.renderApp.setVersionMinor(scene.houdiniMinorForJobs);
         if (houdiniJob)
-            job->customDataSet_Str(QStringLiteral("HoudiniJob"), *houdiniJob);
-        completeApplication(*job, previous, ctx, scan, versions);
+            job.customDataSet_Str(QStringLiteral("HoudiniJob"), *houdiniJob);
+        const JobNote& note = scene.noteOf(i);
+        completeApplication(job, note, exportFilesOf(scene, note), scene, versions);
         if (jobs.count <= 2)
-            job->auxByte3 = 1;
-
-        _zkString<1000> imagePath = job->imageDir;
-        imagePath.append(job->imageFileName.view());
-        previous.imagePath = imagePath.toQString();
-        previous.extension = job->imageExtension.toQString();
-        previous.singleFile = job->imageSingleOutputFile;
-        previous.padding = job->padding;
-
-        if (scan.compressedExportSwitch)
-            compressExport(*job);
-    }
-    for (int i = 0; i < jobs.count; ++i) {
-        zkJ::_JobBasics_largePath* job = jobs.at(i);
-        if (!job)
-            return LoadNoJobRecord;
-        completeCamera(*job);
-    }
-    return LoadOk;
+            job.auxByte3 = 1;
+        return LoadOk;
+    });
+    if (completed != LoadOk)
+        return completed;
+    // An export's files are read as its render job's scene before they are
+    // renamed for compression.
+    return forEachJob(jobs, [&](zkJ::_JobBasics_largePath& job, int i) {
+        if (scene.ctx.compressedExportSwitch)
+            compressExport(job);
+        completeCamera(job, scene, scene.noteOf(i));
+        return LoadOk;
+    });
 }

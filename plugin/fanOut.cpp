@@ -1,9 +1,9 @@
 // One job per take and per wedge variant. Copies are appended to the host's
 // job array like every other job, so its record cap ends a runaway fan-out.
 #include "completion.h"
+#include "plugin/elements/elementSection.h"
 #include "plugin/jobCopy.h"
-#include "plugin/parserState.h"
-#include "plugin/readers/elementSection.h"
+#include "plugin/jobWalk.h"
 
 #include <QHash>
 
@@ -48,14 +48,10 @@ void removeWedgeTokens(zkJ::_JobBasics_largePath& job)
 /// Appends a copy of job \p source; null when the array gives no record.
 zkJ::_JobBasics_largePath* appendCopy(zkJ::_JobBasicsArray& jobs, int source)
 {
-    zkJ::_JobBasics_largePath* copy = nullptr;
-    if (!jobs.getNewJob(copy))
-        return nullptr;
+    zkJ::_JobBasics_largePath* copy = appendJob(jobs);
     // Growing the array may have moved every record.
-    const zkJ::_JobBasics_largePath* from = jobs.at(source);
-    if (!from)
-        return nullptr;
-    copyJob(*copy, *from);
+    if (copy)
+        copyJob(*copy, jobs.records[source]);
     return copy;
 }
 
@@ -88,26 +84,24 @@ private:
 /// Every job renders the scene's first take unless its driver names one of
 /// its own; the jobs of drivers without a take of their own are copied once
 /// per further take.
-LoadResult fanOutTakes(zkJ::_JobBasicsArray& jobs, const QStringList& takes)
+LoadResult fanOutTakes(Scene& scene)
 {
+    zkJ::_JobBasicsArray& jobs = scene.jobs;
+    const QStringList& takes = scene.takes;
     const int n = jobs.count;
     const TakeList takeList(takes);
     std::vector<int> everyTake; // jobs whose drivers name no take the scene has
-    for (int j = 0; j < n; ++j) {
-        zkJ::_JobBasics_largePath* job = jobs.at(j);
-        if (!job)
-            return LoadNoJobRecord;
-        QString& driverTake = nodeActiveTakes[job->layer.toQString()];
-        job->channel.set(takes.first());
-        if (!driverTake.isEmpty()) {
-            if (const QString* take = takeList.find(driverTake))
-                job->channel.set(*take);
-            else
-                driverTake.clear(); // a take the scene does not have: render them all
-        }
-        if (driverTake.isEmpty())
+    const LoadResult named = forEachJob(jobs, [&](zkJ::_JobBasics_largePath& job, int j) {
+        const QString& driverTake = scene.noteOf(j).take;
+        const QString* take = driverTake.isEmpty() ? nullptr : takeList.find(driverTake);
+        // A take the scene does not have renders them all.
+        job.channel.set(take ? *take : takes.first());
+        if (!take)
             everyTake.push_back(j);
-    }
+        return LoadOk;
+    });
+    if (named != LoadOk)
+        return named;
     // Each further take copies at least one job, so the job array's cap also
     // bounds this loop for a scene with a huge take list.
     for (int t = 1; t < takes.size() && !everyTake.empty(); ++t) {
@@ -129,24 +123,25 @@ LoadResult fanOutTakes(zkJ::_JobBasicsArray& jobs, const QStringList& takes)
 /// Copies the jobs of wedged drivers once per variant. A copy that waits
 /// waits for the copy of its export made for the same wedge and variant, so
 /// each variant renders the scene files written for it.
-LoadResult fanOutWedges(zkJ::_JobBasicsArray& jobs)
+LoadResult fanOutWedges(Scene& scene)
 {
+    zkJ::_JobBasicsArray& jobs = scene.jobs;
+    QList<WedgeNode>& wedges = scene.wedges;
     const int m = jobs.count;
     int counter = m;
-    for (int j = 0; j < m; ++j) {
-        const zkJ::_JobBasics_largePath* job = jobs.at(j);
-        if (!job)
-            return LoadNoJobRecord;
-        // A driver with its own take was not copied per take, which leaves
-        // preIDs above m; the wedge copies must not repeat them.
-        counter = std::max(counter, int(job->preID));
-    }
-
     // The job a waiting copy's source waits for: the first with that preID.
     std::array<int, 256> firstWithPreID;
     firstWithPreID.fill(-1);
-    for (int e = m - 1; e >= 0; --e)
-        firstWithPreID[jobs.at(e)->preID] = e;
+    const LoadResult numbered = forEachJob(jobs, [&](const zkJ::_JobBasics_largePath& job, int j) {
+        // A driver with its own take was not copied per take, which leaves
+        // preIDs above m; the wedge copies must not repeat them.
+        counter = std::max(counter, int(job.preID));
+        if (firstWithPreID[job.preID] < 0)
+            firstWithPreID[job.preID] = j;
+        return LoadOk;
+    });
+    if (numbered != LoadOk)
+        return numbered;
     // The wedges of each driver in list order: a scene may hold many wedge
     // drivers, and trying each on every job would multiply the two.
     QHash<QString, std::vector<int>> wedgesOf;
@@ -154,13 +149,10 @@ LoadResult fanOutWedges(zkJ::_JobBasicsArray& jobs)
         wedgesOf[wedges.at(w).driver].push_back(w);
     // preID of the copy of job j made for wedge w and variant k.
     std::map<std::tuple<int, int, int>, unsigned char> copies;
-    for (int j = 0; j < m; ++j) {
-        const zkJ::_JobBasics_largePath* job = jobs.at(j);
-        if (!job)
-            return LoadNoJobRecord;
-        const auto driven = wedgesOf.constFind(job->layer.toQString());
+    return forEachJob(jobs, [&](const zkJ::_JobBasics_largePath& job, int j) {
+        const auto driven = wedgesOf.constFind(job.layer.toQString());
         for (const int w : driven == wedgesOf.cend() ? std::vector<int>() : *driven) {
-            _wedgeNode& wedge = wedges[w];
+            WedgeNode& wedge = wedges[w];
             const int total = wedge.totalWedges();
             for (int k = 0; k < total; ++k) {
                 zkJ::_JobBasics_largePath* copy = appendCopy(jobs, j);
@@ -168,7 +160,7 @@ LoadResult fanOutWedges(zkJ::_JobBasicsArray& jobs)
                     return LoadNoJobRecord;
                 copy->sceneState.set(wedge.nodePath + u'*' + QString::number(k));
                 const QString number = QString::number(k);
-                const QString name = wedge.getWedgeFileName(k);
+                const QString name = wedge.fileName(k);
                 editWedgePaths(*copy, [&](QString& text) {
                     text.replace(WedgeNumBraced, number);
                     text.replace(WedgeNum, number);
@@ -187,58 +179,30 @@ LoadResult fanOutWedges(zkJ::_JobBasicsArray& jobs)
             }
         }
         // Copying may have moved the records.
-        zkJ::_JobBasics_largePath* own = jobs.at(j);
-        if (!own)
-            return LoadNoJobRecord;
-        own->auxByte3 = 0;
-        removeWedgeTokens(*own);
-    }
-    return LoadOk;
+        zkJ::_JobBasics_largePath& own = jobs.records[j];
+        own.auxByte3 = 0;
+        removeWedgeTokens(own);
+        return LoadOk;
+    });
 }
 
 } // namespace
 
-LoadResult fanOutJobs(const LoadContext& ctx, const ScanResult& scan)
+LoadResult fanOutJobs(Scene& scene)
 {
-    zkJ::_JobBasicsArray& jobs = *ctx.data->jobs;
+    zkJ::_JobBasicsArray& jobs = scene.jobs;
     // With the take flag but no take in the scene there is no take to name.
-    if ((scan.takes.size() > 1 || scan.takeFound) && !scan.takes.isEmpty()) {
-        const LoadResult result = fanOutTakes(jobs, scan.takes);
+    if ((scene.takes.size() > 1 || scene.takeFound) && !scene.takes.isEmpty()) {
+        const LoadResult result = fanOutTakes(scene);
         if (result != LoadOk)
             return result;
     }
-    if (emptyNodesfound && jobs.count == 0)
+    if (scene.emptyDriverFound && jobs.count == 0)
         return LoadOnlyEmptyDrivers;
-    if (!wedges.isEmpty())
-        return fanOutWedges(jobs);
-    for (int i = 0; i < jobs.count; ++i) {
-        zkJ::_JobBasics_largePath* job = jobs.at(i);
-        if (!job)
-            return LoadNoJobRecord;
-        removeWedgeTokens(*job);
-    }
-    return LoadOk;
-}
-
-LoadResult finishLoad(const LoadContext& ctx, const ScanResult& scan)
-{
-    if (scan.result != LoadOk)
-        return scan.result;
-    const LoadResult result = completeJobs(ctx, scan);
-    if (result != LoadOk)
-        return result;
-    return fanOutJobs(ctx, scan);
-}
-
-LoadResult loadLines(const LoadContext& ctx, LineSource& in)
-{
-    resetParserState();
-    const ScanResult scan = scanScene(ctx, in);
-    const LoadResult result = finishLoad(ctx, scan);
-    // A refused getNewJob leaves count one past the records there are (result
-    // 7); the host reads count records, so it must not be told of that one.
-    zkJ::_JobBasicsArray& jobs = *ctx.data->jobs;
-    if (jobs.count > jobs.allocated)
-        jobs.count = jobs.allocated;
-    return result;
+    if (!scene.wedges.isEmpty())
+        return fanOutWedges(scene);
+    return forEachJob(jobs, [](zkJ::_JobBasics_largePath& job, int) {
+        removeWedgeTokens(job);
+        return LoadOk;
+    });
 }

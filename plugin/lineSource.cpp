@@ -1,5 +1,7 @@
 #include "lineSource.h"
 
+#include "shared/zkAscii.h"
+
 #include <cstring>
 #include <string_view>
 
@@ -309,7 +311,7 @@ void LineSource::Marks::add(unsigned firstBit, const char* text, bool anyCase)
     for (int i = 0; i < 2; ++i) {
         const unsigned char c = static_cast<unsigned char>(text[i]);
         const unsigned bit = 1u << (i == 0 ? firstBit : firstBit + 1);
-        const unsigned char other = (c | 0x20) >= 'a' && (c | 0x20) <= 'z' ? c ^ 0x20 : c;
+        const unsigned char other = zkAscii::otherCase(c);
         for (const unsigned char form : { c, anyCase ? other : c }) {
             low[form & 15] |= std::uint8_t(bit);
             high[form >> 4] |= std::uint8_t(bit);
@@ -331,7 +333,7 @@ void LineSource::Marks::addLead(const char* text, bool anyCase, const char* also
     addKey(text, anyCase, true).alsoHolds = alsoHolds;
     for (int i = 0; i < 2; ++i) {
         const unsigned char c = static_cast<unsigned char>(text[i]);
-        const unsigned char other = (c | 0x20) >= 'a' && (c | 0x20) <= 'z' ? c ^ 0x20 : c;
+        const unsigned char other = zkAscii::otherCase(c);
         std::array<std::uint8_t, 16>& set = i == 0 ? leadFirst : leadSecond;
         for (const unsigned char form : { c, anyCase ? other : c }) {
             if (form < 0x80)
@@ -361,7 +363,7 @@ LineSource::Marks::Key& LineSource::Marks::addKey(const char* text, bool anyCase
     // A longer key is checked by its beginning only, which can only let more lines through.
     for (key.size = 0; text[key.size] && key.size < qsizetype(key.text.size()); ++key.size) {
         const char c = text[key.size];
-        key.text[size_t(key.size)] = anyCase && c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c;
+        key.text[size_t(key.size)] = anyCase ? zkAscii::lower(c) : c;
     }
     return key;
 }
@@ -405,7 +407,7 @@ bool LineSource::Marks::holdsAt(const char* p, qsizetype available, bool lead) c
                         return true;
                     break;
                 }
-                if ((c >= 'A' && c <= 'Z' ? c | 0x20 : c) != static_cast<unsigned char>(want))
+                if (zkAscii::lower(c) != static_cast<unsigned char>(want))
                     break;
             } else if (c != static_cast<unsigned char>(want)) {
                 break;
@@ -421,29 +423,6 @@ LineSource::LineSource(QTextStream& stream)
     : in(stream)
 {
     buffer.resize(Padding, '\0');
-}
-
-bool LineSource::next(QString& line)
-{
-    QByteArrayView raw;
-    if (!nextRaw(raw)) {
-        line.clear();
-        return false;
-    }
-    line = decode(raw);
-    return true;
-}
-
-QByteArrayView LineSource::trimmedAscii(QByteArrayView raw)
-{
-    const auto blank = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
-    qsizetype first = 0;
-    qsizetype last = raw.size();
-    while (first < last && blank(raw[first]))
-        ++first;
-    while (last > first && blank(raw[last - 1]))
-        --last;
-    return raw.sliced(first, last - first);
 }
 
 qsizetype LineSource::findNewline(qsizetype from)
@@ -531,13 +510,6 @@ void LineSource::useVectorSearch(bool on)
 #else
     (void)on;
 #endif
-}
-
-bool LineSource::atEnd()
-{
-    if (pos < size)
-        return false;
-    return !fill();
 }
 
 void LineSource::dropConsumed()

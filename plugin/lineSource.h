@@ -24,18 +24,9 @@
 /// so the device is read in chunks of raw bytes, each chunk is searched for
 /// line ends 64 bytes at a time, and a line is decoded only when someone asks
 /// for its text. The scanner goes further and asks only for the lines that
-/// hold one of its marks (nextMarked). A reader's line loop rejects most
-/// lines on their first visible byte and decodes the rest:
-///
-///     QByteArrayView raw;
-///     while (in.nextRaw(raw)) {
-///         const QByteArrayView body = LineSource::trimmedAscii(raw);
-///         if (body.isEmpty() || (body.front() != '}' && !mayStartKeyword(body.front())))
-///             continue; // mayStartKeyword must pass every byte above 0x7F
-///         const QString line = LineSource::decode(raw);
-///         ...
-///
-/// (elementSection::nextLineFor does this for keywords given by their first letters.)
+/// hold one of its marks (nextMarked); a reader's line loop
+/// (sectionLoop::readSection) rejects most lines on their first visible byte
+/// and decodes the rest.
 class LineSource
 {
 public:
@@ -129,13 +120,8 @@ public:
 
     explicit LineSource(QTextStream& stream);
 
-    /// Reads the next line, decoded and trimmed, into \p line. False (and
-    /// \p line emptied) when the input is exhausted.
-    bool next(QString& line);
-
     /// The next line's raw bytes, "\r" removed, neither decoded nor trimmed;
-    /// valid until the next call of any next*(). Decode with decode(); look
-    /// at the first visible byte with trimmedAscii().
+    /// valid until the next call of any next*(). Decode with decode().
     bool nextRaw(QByteArrayView& bytes);
 
     /// The next line that holds one of \p marks, as nextRaw(); every line
@@ -147,14 +133,6 @@ public:
     {
         return QString::fromUtf8(raw).trimmed();
     }
-
-    /// A raw line without its ASCII blanks at both ends: a reader's line loop
-    /// can reject most lines on front() without decoding them. When the first
-    /// (or last) byte left is not ASCII, only the decoded text tells where the
-    /// line starts (or ends): non-ASCII blanks are trimmed there too.
-    static QByteArrayView trimmedAscii(QByteArrayView raw);
-
-    bool atEnd();
 
     /// Whether lines are searched with AVX2 where the processor has it (the
     /// default) or byte by byte, as on processors without it. For tests and

@@ -11,6 +11,13 @@
 
 namespace parameterLine {
 
+/// A value that names a node through a channel expression (chs(), chsop()),
+/// which only Houdini can resolve.
+inline bool isChannelExpression(const QString& value)
+{
+    return value.contains(QLatin1String("chs(")) || value.contains(QLatin1String("chsop("));
+}
+
 /// The text between the first "(" and the first ")" after it, trimmed, quotes
 /// kept. A line without "(" is read from its start; without ")" it is empty.
 inline QString bracketValue(const QString& line)

@@ -1,6 +1,6 @@
 #include "scanner.h"
 
-#include "plugin/parserState.h"
+#include "shared/zkAscii.h"
 #include "shared/zkShared.h"
 
 #include <array>
@@ -49,7 +49,7 @@ const std::array<std::string, std::size(RendererMarkers)>& foldedMarkers()
         std::array<std::string, std::size(RendererMarkers)> all;
         for (size_t i = 0; i < all.size(); ++i) {
             for (const char* c = RendererMarkers[i]; *c; ++c)
-                all[i] += char(*c >= 'A' && *c <= 'Z' ? *c - 'A' + 'a' : *c);
+                all[i] += zkAscii::lower(*c);
         }
         return all;
     }();
@@ -86,7 +86,7 @@ public:
                 break;
             }
             bytes[i] = char(c);
-            lower[i] = char(c >= u'A' && c <= u'Z' ? c - u'A' + u'a' : c);
+            lower[i] = char(zkAscii::lower(c));
         }
     }
 
@@ -104,10 +104,8 @@ public:
             return line.contains(QLatin1String(needle), Qt::CaseInsensitive);
         char folded[32];
         size_t n = 0;
-        for (; needle[n] && n < sizeof(folded); ++n) {
-            const char c = needle[n];
-            folded[n] = c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c;
-        }
+        for (; needle[n] && n < sizeof(folded); ++n)
+            folded[n] = zkAscii::lower(needle[n]);
         return std::string_view(lower, size_t(line.size())).find(std::string_view(folded, n))
             != std::string_view::npos;
     }
@@ -186,7 +184,7 @@ qsizetype findSetGlobal(QStringView line)
         if (dash + 2 >= line.size())
             return -1;
         if (line[dash - 1] != u' ' || line[dash + 2] != u' '
-            || (line[dash + 1].unicode() | 0x20) != u'g')
+            || zkAscii::lower(line[dash + 1].unicode()) != u'g')
             continue;
         const QStringView candidate = line.mid(dash - DashOffset, key.size());
         if (candidate.compare(key, Qt::CaseInsensitive) == 0)
@@ -202,17 +200,17 @@ bool mayStartVariableLine(QChar first)
     return c == u's' || c == u'S' || c == u'h' || c == u'H' || c == u'\u017F';
 }
 
-void readFrameRange(QStringView line)
+void readFrameRange(QStringView line, Scene& scene)
 {
     const QStringView rest = line.mid(line.indexOf(u' ') + 1);
     const qsizetype blank = rest.indexOf(u' ');
     if (blank < 0)
         return;
-    GLseqStart = rest.left(blank).toInt();
-    GLseqEnd = rest.mid(blank + 1).toInt();
+    scene.frameStart = rest.left(blank).toInt();
+    scene.frameEnd = rest.mid(blank + 1).toInt();
 }
 
-void readSaveVersion(QStringView line, ScanResult& scan)
+void readSaveVersion(QStringView line, Scene& scene)
 {
     const qsizetype open = line.indexOf(u'\'');
     if (open < 0)
@@ -224,35 +222,35 @@ void readSaveVersion(QStringView line, ScanResult& scan)
     if (version.isEmpty())
         return;
 
-    scan.houdiniVersion = version;
+    scene.houdiniVersion = version;
     const qsizetype dot = version.indexOf(u'.');
     if (dot < 0) {
         // A bare major number carries no minor part for either use.
-        scan.houdiniMajor = version.toInt();
-        scan.houdiniMinorForJobs.clear();
-        scan.houdiniMinorForReaders.clear();
+        scene.houdiniMajor = version.toInt();
+        scene.houdiniMinorForJobs.clear();
+        scene.houdiniMinorForReaders.clear();
         return;
     }
-    scan.houdiniMajor = QStringView(version).left(dot).toInt();
+    scene.houdiniMajor = QStringView(version).left(dot).toInt();
     const QString rest = version.mid(dot + 1);
     const qsizetype restDot = rest.indexOf(u'.');
-    if (scan.buildVersionSwitch) {
-        scan.houdiniMinorForJobs = restDot < 0 ? rest : rest.left(restDot);
-        scan.houdiniMinorForReaders = scan.houdiniMinorForJobs;
+    if (scene.ctx.buildVersionSwitch) {
+        scene.houdiniMinorForJobs = restDot < 0 ? rest : rest.left(restDot);
+        scene.houdiniMinorForReaders = scene.houdiniMinorForJobs;
         return;
     }
-    scan.houdiniMinorForJobs = rest;
+    scene.houdiniMinorForJobs = rest;
     // "5.303.1" -> "5303": minor and build joined, anything further dropped.
     QString joined = rest;
     if (restDot >= 0)
         joined.remove(restDot, 1);
     const qsizetype further = joined.indexOf(u'.');
-    scan.houdiniMinorForReaders = further < 0 ? joined : joined.left(further);
+    scene.houdiniMinorForReaders = further < 0 ? joined : joined.left(further);
 }
 
-void readGlobalVariable(QStringView line, qsizetype setAt)
+void readGlobalVariable(QStringView line, qsizetype setAt, Scene& scene)
 {
-    if (hVariables.size() >= MaxSceneVariables)
+    if (scene.variables.size() >= MaxSceneVariables)
         return;
     const qsizetype assign = line.indexOf(QStringView(u" = "));
     const qsizetype nameAt = setAt + 7;
@@ -260,10 +258,10 @@ void readGlobalVariable(QStringView line, qsizetype setAt)
     const QString name = line.toString().mid(nameAt, assign - nameAt).trimmed();
     QStringView value = line.mid(assign + 3).trimmed();
     value = value.size() >= 2 ? value.mid(1, value.size() - 2) : QStringView();
-    hVariables.append({ name, value.trimmed().toString() });
+    scene.variables.append({ name, value.trimmed().toString() });
 }
 
-void readTake(QStringView line, ScanResult& scan)
+void readTake(QStringView line, Scene& scene)
 {
     QStringView name = line.mid(9).trimmed();
     const qsizetype blank = name.indexOf(u' ');
@@ -271,42 +269,17 @@ void readTake(QStringView line, ScanResult& scan)
         name = name.left(blank);
     name = name.trimmed();
     if (!name.isEmpty())
-        scan.takes.append(name.toString());
+        scene.takes.append(name.toString());
 }
 
-void takeEnvironment()
+void takeEnvironment(Scene& scene)
 {
     const _varValList environment = zkGetEnvironmentVariableList(false);
     for (const _varValue& variable : environment.items) {
         if (variable.value.size() <= MaxEnvironmentValueLength
             && variable.name.startsWith(QStringView(u"HIP"), Qt::CaseInsensitive))
-            hVariables.append({ variable.name, variable.value });
+            scene.variables.append({ variable.name, variable.value });
     }
-}
-
-/// Hands a section to its reader; a result other than LoadOk ends the scan.
-LoadResult readSection(SectionKind kind, const SectionReaders& readers, const LoadContext& ctx,
-    LineSource& in, QString& header, ScanResult& scan)
-{
-    switch (kind) {
-    case SectionKind::Wedge:
-        readers.wedge(ctx.data, in, header);
-        return LoadOk;
-    case SectionKind::Camera:
-        readers.camera(ctx.data, in, header);
-        return LoadOk;
-    case SectionKind::Lop:
-        readers.lop(ctx.data, in, header);
-        return LoadOk;
-    case SectionKind::UsdRenderSettings:
-        return readers.usdRenderSettings(ctx.data, in, header);
-    case SectionKind::OutNode:
-        return readers.outNode(
-            ctx.data, in, header, scan.takeFound, scan.houdiniMajor, scan.houdiniMinorForReaders);
-    case SectionKind::None:
-        break;
-    }
-    return LoadOk;
 }
 
 /// What the scan does after a rule has looked at a line.
@@ -318,20 +291,20 @@ enum class Then {
 
 struct ScanStep
 {
-    const LoadContext& ctx;
+    Scene& scene;
     LineSource& in;
     const SectionReaders& readers;
-    ScanResult& scan;
     QString& header;
+    LoadResult result = LoadOk;
 };
 
-Then takeFrameRange(QStringView line, ScanStep&)
+Then takeFrameRange(QStringView line, ScanStep& step)
 {
     // Only "frange" and a blank is the scene's range: node parameters named
     // "frange" ("frange\t[ 0 ...") would reset every driver's range.
-    if ((line.front().unicode() | 0x20) == u'f'
+    if (zkAscii::lower(line.front().unicode()) == u'f'
         && line.startsWith(QStringView(u"frange "), Qt::CaseInsensitive))
-        readFrameRange(line);
+        readFrameRange(line, step.scene);
     return Then::NextRule;
 }
 
@@ -339,11 +312,11 @@ Then takeSaveVersion(QStringView line, ScanStep& step)
 {
     if (findSaveVersion(line) < 0)
         return Then::NextRule;
-    readSaveVersion(line, step.scan);
+    readSaveVersion(line, step.scene);
     return Then::LineDone;
 }
 
-Then takeGlobalVariable(QStringView line, ScanStep&)
+Then takeGlobalVariable(QStringView line, ScanStep& step)
 {
     // Cheapest test first: archive member headers start with "Hou" too.
     if (!mayStartVariableLine(line.front())
@@ -352,7 +325,7 @@ Then takeGlobalVariable(QStringView line, ScanStep&)
         return Then::NextRule;
     const qsizetype setAt = findSetGlobal(line);
     if (setAt >= 0 && line.contains(QStringView(u" = ")))
-        readGlobalVariable(line, setAt);
+        readGlobalVariable(line, setAt, step.scene);
     return Then::NextRule;
 }
 
@@ -360,22 +333,18 @@ Then takeTake(QStringView line, ScanStep& step)
 {
     if (!line.startsWith(QStringView(u"take name")))
         return Then::NextRule;
-    readTake(line, step.scan);
+    readTake(line, step.scene);
     return Then::LineDone;
 }
 
 Then takeSection(QStringView line, ScanStep& step)
 {
-    const SectionKind kind = sectionKind(line);
-    if (kind == SectionKind::None)
+    const SectionReader reader = step.readers[sectionKind(line)];
+    if (!reader)
         return Then::LineDone;
     step.header = line.toString();
-    const LoadResult result
-        = readSection(kind, step.readers, step.ctx, step.in, step.header, step.scan);
-    if (result == LoadOk)
-        return Then::LineDone;
-    step.scan.result = result;
-    return Then::StopScan;
+    step.result = reader(step.scene, step.in, step.header);
+    return step.result == LoadOk ? Then::LineDone : Then::StopScan;
 }
 
 /// Bytes a raw line must hold for a rule to take it: at the line's first
@@ -470,20 +439,16 @@ SectionKind sectionKind(QStringView line)
     return SectionKind::OutNode;
 }
 
-ScanResult scanScene(
-    const LoadContext& ctx, LineSource& in, const SectionReaders& readers, ScanMode mode)
+LoadResult scanScene(Scene& scene, LineSource& in, const SectionReaders& readers, ScanMode mode)
 {
-    ScanResult scan;
-    scan.buildVersionSwitch = ctx.buildVersionSwitch;
-    scan.compressedExportSwitch = ctx.compressedExportSwitch;
-
-    const qsizetype slash = ctx.scenePath.lastIndexOf(u'/');
-    DatabaseDir = slash < 0 ? ctx.scenePath : ctx.scenePath.left(slash + 1);
-    takeEnvironment();
+    const QString& path = scene.ctx.scenePath;
+    const qsizetype slash = path.lastIndexOf(u'/');
+    scene.databaseDir = slash < 0 ? path : path.left(slash + 1);
+    takeEnvironment(scene);
 
     static const LineSource::Marks marks = ruleMarks();
     QString header;
-    ScanStep step { ctx, in, readers, scan, header };
+    ScanStep step { scene, in, readers, header };
     QByteArrayView raw;
     while (mode == ScanMode::EveryLine ? in.nextRaw(raw) : in.nextMarked(raw, marks)) {
         const QString text = LineSource::decode(raw);
@@ -492,5 +457,5 @@ ScanResult scanScene(
         if (applyRules(text, step) == Then::StopScan)
             break;
     }
-    return scan;
+    return step.result;
 }

@@ -1,11 +1,11 @@
 // Substring search in time linear in the text and the needle, for needles
 // that come from the scene: a parameter's name, a variable's name.
 //
-// Qt's search skips along the text by its last character and, on a text such
+// Qt's search skips along the text by its last character, and on a text such
 // as a long run of one letter against a needle that differs from that run
-// only in its first character, compares the whole needle at nearly every
-// place: a 250 KB parameter line took two seconds, a line of a few megabytes
-// minutes. This one (Knuth-Morris-Pratt) finds the same places.
+// only in its first character it compares the whole needle at nearly every
+// place, so its time grows with the product of the two lengths. This one
+// (Knuth-Morris-Pratt) finds the same places in time proportional to their sum.
 #pragma once
 
 #include <QString>

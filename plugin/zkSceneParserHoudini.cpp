@@ -1,16 +1,10 @@
 // The two entry points the host resolves by name.
-#include "completion.h"
-#include "loadContext.h"
+#include "load.h"
 #include "loadResult.h"
-#include "parserState.h"
-#include "plugin/lineSource.h"
 #include "pluginExport.h"
-#include "scanner.h"
+#include "renderers.h"
 #include "zkPluginRecords.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QTextStream>
 #include <QtGlobal>
 
 #include <cstring>
@@ -22,33 +16,6 @@ constexpr const char* AuthorText = "zk scene parser authors";
 constexpr const char* PluginVersion = "1.0";
 constexpr const char* FileFilter = "*.hip;*.hipnc;*.hiplc;";
 constexpr int QtVersionCapacity = 25;
-
-LoadResult loadScene(zkP::_dataPARS_LoadSceneFile& data)
-{
-    if (!data.jobs || !data.jobs->isVersionSupported(1))
-        return LoadUnsupportedArray;
-
-    LoadContext ctx;
-    ctx.data = &data;
-    readSubmitterArguments(ctx, data.settings);
-
-    if (!data.sceneFile)
-        return LoadCannotOpen;
-    ctx.scenePath = data.sceneFile->toQString();
-    // Anything but a regular file (directory, FIFO, device) could block or
-    // never end; refuse it before opening.
-    if (!QFileInfo(ctx.scenePath).isFile())
-        return LoadCannotOpen;
-    // Binary mode: the line source drops every "\r" itself, far cheaper than
-    // the device's text-mode filter on scenes of several gigabytes.
-    QFile file(ctx.scenePath);
-    if (!file.open(QIODevice::ReadOnly))
-        return LoadCannotOpen;
-
-    QTextStream stream(&file);
-    LineSource in(stream);
-    return loadLines(ctx, in);
-}
 
 } // namespace
 
@@ -83,9 +50,5 @@ extern "C" ZK_PLUGIN_EXPORT int pLoadSceneFile(zkP::_dataPARS_LoadSceneFile* dat
 {
     if (!data)
         return LoadUnsupportedArray;
-    try {
-        return loadScene(*data);
-    } catch (...) {
-        return LoadInternalError;
-    }
+    return loadScene(*data);
 }

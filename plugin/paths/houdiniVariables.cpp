@@ -75,7 +75,7 @@ QString houdiniNodeName(const QString& nodePath)
 }
 
 QString replaceHoudiniVariables(QString path, zkJ::_JobBasics_largePath* job,
-    QList<_namevalue>& variables, _zkString<500> const& sceneFile)
+    const QList<SceneVariable>& variables, _zkString<500> const& sceneFile)
 {
     if (path.isEmpty() || !job)
         return path;
@@ -96,7 +96,7 @@ QString replaceHoudiniVariables(QString path, zkJ::_JobBasics_largePath* job,
     replaceAny(path, folded, QStringLiteral("$HIP"), databaseDir);
     replaceAny(path, folded, QStringLiteral("${HIP}"), databaseDir);
 
-    for (const _namevalue& variable : qAsConst(variables)) {
+    for (const SceneVariable& variable : variables) {
         // A nameless entry would turn every "$" of the path into its value.
         if (variable.name.isEmpty() || !mayReference(folded, variable.name))
             continue;

@@ -1,6 +1,5 @@
-#include "elementSection.h"
+#include "plugin/elements/elementSection.h"
 #include "plugin/parameterLine.h"
-#include "plugin/parserState.h"
 #include "readerCommon.h"
 #include "sectionLoop.h"
 
@@ -12,7 +11,7 @@ const QLatin1String ResolutionKeyword("res\t");
 
 /// "res\t[ 0\tlocks=0 ]\t(\t1920\t1080\t)": width before the first tab, height
 /// after it; a value without a tab gives both the same number.
-void readResolution(const QString& line, _camNode& cam)
+void readResolution(const QString& line, CameraNode& cam)
 {
     const QString value = parameterLine::unquotedBracketValue(line);
     const qsizetype tab = value.indexOf(u'\t');
@@ -22,10 +21,9 @@ void readResolution(const QString& line, _camNode& cam)
 
 } // namespace
 
-bool loadCamNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& line)
+LoadResult readCameraSection(Scene& scene, LineSource& in, QString& line)
 {
-    (void)data;
-    _camNode cam;
+    CameraNode cam;
     cam.name.set(nodePathOutObj(line));
     cam.isStereo = cam.name.indexOf(_zkString8_allSize<150>("stereo"), 0) >= 0;
 
@@ -38,6 +36,6 @@ bool loadCamNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& li
           });
     // A camera cut off by the end of the file is not trusted.
     if (end == sectionLoop::SectionEnd::Closed)
-        camList.addCam(cam);
-    return true;
+        scene.cameras.add(cam);
+    return LoadOk;
 }

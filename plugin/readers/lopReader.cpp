@@ -1,15 +1,13 @@
-#include "elementSection.h"
-#include "plugin/parserState.h"
+#include "plugin/elements/elementSection.h"
 #include "plugin/paths/imageTokens.h"
 #include "readerCommon.h"
 #include "sectionLoop.h"
 
 using namespace elementSection;
 
-bool loadLOPNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& line)
+LoadResult readLopSection(Scene& scene, LineSource& in, QString& line)
 {
-    (void)data;
-    _LOPNode node;
+    LopNode node;
     node.nodePath = nodePathStage(line);
 
     static const QLatin1String picture("picture\t");
@@ -23,6 +21,6 @@ bool loadLOPNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& li
             return true;
         });
     if (end == sectionLoop::SectionEnd::Closed)
-        LOPList.addLOP(node);
-    return true;
+        scene.lops.add(node);
+    return LoadOk;
 }

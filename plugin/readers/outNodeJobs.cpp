@@ -2,9 +2,10 @@
 
 #include "jobs/ZK_DataTypes_jobs_defines.h"
 #include "plugin/jobCopy.h"
-#include "plugin/parserState.h"
+#include "plugin/jobWalk.h"
 #include "plugin/paths/houdiniVariables.h"
 #include "plugin/paths/imageTokens.h"
+#include "plugin/renderers.h"
 #include "shared/zkShared.h"
 
 #include <cmath>
@@ -67,49 +68,38 @@ void composeAovFiles(Driver& d)
 
 /// The AOV files go into the job's channel slots in AOV order, expanded like
 /// the image path; each is used once (an export pair's render job gets them).
-void writeAovChannels(Driver& d, zkJ::_JobBasics_largePath& job, const _zkString<500>& scene)
+void writeAovChannels(Driver& d, zkJ::_JobBasics_largePath& job)
 {
     int slot = 0;
     for (QString& file : d.aovFile) {
         if (file.isEmpty())
             continue;
-        job.channels[slot++].fileName.set(replaceHoudiniVariables(file, &job, hVariables, scene));
+        job.channels[slot++].fileName.set(
+            replaceHoudiniVariables(file, &job, d.scene.variables, d.scene.sceneFile));
         file.clear();
     }
 }
 
 /// The first LOP entry that lists the driver among its render nodes, or null.
-const _LOPNode* linkedLop(const Driver& d)
+const LopNode* linkedLop(const Driver& d)
 {
-    const int index = LOPList.findLOPIndexByRenderNode(d.path);
-    return index < 0 ? nullptr : &LOPList.list.at(index);
+    const LopList& lops = d.scene.lops;
+    const int index = lops.findByDriver(d.path);
+    return index < 0 ? nullptr : &lops.list.at(index);
 }
 
 QString renderRendererName(const Driver& d, zkJ::_JobBasics_largePath& job)
 {
-    if (d.isUSD) {
-        const _LOPNode* lop = linkedLop(d);
-        return lop ? lop->rendererName_render() : QString();
+    const Renderer renderer = firstRenderer(d.marked, false);
+    if (renderer == Renderer::Usd) {
+        const LopNode* lop = linkedLop(d);
+        return lop ? lop->renderName() : QString();
     }
-    if (d.isArnold)
-        return QStringLiteral("arnold");
-    if (d.isPicture)
-        return QStringLiteral("opengl");
-    if (d.isGeometry)
-        return QStringLiteral("geometry");
-    if (d.isRedshift)
-        return QStringLiteral("redshift");
-    if (d.isRenderMan)
-        return QStringLiteral("prman");
-    if (d.isAlembic) {
-        if (!d.isSingleFile)
-            return QStringLiteral("alembic");
+    if (renderer == Renderer::Alembic && d.isSingleFile) {
         job.imageSingleOutputFile = true;
         return QStringLiteral("alembic-singleFile");
     }
-    if (d.isVRay)
-        return QStringLiteral("vray");
-    return QString();
+    return rendererRow(renderer).renderName;
 }
 
 /// The export job's renderer name. A USD export of a Redshift render
@@ -117,65 +107,48 @@ QString renderRendererName(const Driver& d, zkJ::_JobBasics_largePath& job)
 void setExportRenderer(Driver& d, zkJ::_JobBasics_largePath& job, zkJ::_JobBasicsArray& jobs)
 {
     _zkString<25>& name = job.renderApp.rendererName;
-    if (d.isUSD) {
-        const _LOPNode* lop = linkedLop(d);
-        name.set(lop ? lop->rendererName_create() : QStringLiteral("createUSD"));
-        if (name.indexOf(_zkString<25>("redshift"), 0) >= 0 && d.exportPath.endsWith(".rs"_L1)) {
-            d.prependPicture = true;
-            jobs.arrayText.append(QString::fromLatin1(LocalRenderOutOption));
-            d.isRedshift = true;
-            d.isUSD = false;
-        }
+    const Renderer renderer = firstRenderer(d.marked, true);
+    if (renderer == Renderer::Usd) {
+        const LopNode* lop = linkedLop(d);
+        name.set(lop ? lop->exportName() : QString(rendererRow(renderer).exportName));
         if (d.isSingleFile)
             job.imageSingleOutputFile = true;
+        if (name.indexOf(_zkString<25>("redshift"), 0) < 0 || !d.exportPath.endsWith(".rs"_L1))
+            return;
+        d.prependPicture = true;
+        jobs.arrayText.append(QString::fromLatin1(LocalRenderOutOption));
+        d.marked = (d.marked | bit(Renderer::Redshift)) & ~bit(Renderer::Usd);
     }
-    if (d.isUSD)
-        return;
-    if (d.isArnold)
-        name.setLatin1("createASS");
-    else if (d.isRedshift)
-        name.setLatin1("createRS");
-    else if (d.isRenderMan)
-        name.setLatin1("createRIB");
-    else if (d.isVRay) {
-        name.setLatin1("createVrScene");
-        if (d.isSingleFile)
-            job.imageSingleOutputFile = true;
-    } else
-        name.setLatin1("createIFD");
+    const Renderer exporter = firstRenderer(d.marked, true);
+    name.set(QString(rendererRow(exporter).exportName));
+    if (exporter == Renderer::VRay && d.isSingleFile)
+        job.imageSingleOutputFile = true;
 }
 
-/// The stand-alone renderer that renders an export's files.
-const QString& renderApplication(const Driver& d, bool exportIsSingleFile, const _LOPNode* lop)
+/// The stand-alone renderer that renders an export's files: a USD export
+/// goes to the renderer of its LOP node.
+Renderer renderApplication(const Driver& d, const LopNode* lop)
 {
-    if (d.isUSD) {
-        if (lop && lop->renderer == "arnold"_L1)
-            return exportIsSingleFile ? appNameArnold_singlefile : appNameArnold;
-        return exportIsSingleFile ? appNameUSDsingle : appNameUSD;
-    }
-    if (d.isArnold)
-        return appNameArnold;
-    if (d.prependPicture)
-        return appNameRedshift;
-    if (d.isRenderMan)
-        return appNameRenderman;
-    if (d.isVRay)
-        return appNameVRay;
-    return appNameMantra;
+    const Renderer renderer = firstRenderer(d.marked, true);
+    if (renderer == Renderer::Usd && lop && lop->renderer == "arnold"_L1)
+        return Renderer::Arnold;
+    return renderer;
 }
 
 /// The render job of an export pair: a copy of the export job that renders
 /// the driver's images and waits for the export.
-LoadResult makeRenderJob(Driver& d, zkJ::_JobBasicsArray& jobs, const _zkString<500>& scene)
+LoadResult makeRenderJob(Driver& d, int exportIndex)
 {
-    mantraIFDJob = true;
-    zkJ::_JobBasics_largePath* job = nullptr;
-    if (!jobs.getNewJob(job))
+    d.scene.exportPairMade = true;
+    zkJ::_JobBasicsArray& jobs = d.scene.jobs;
+    zkJ::_JobBasics_largePath* job = appendJob(jobs);
+    if (!job)
         return LoadNoJobRecord;
     // Growing the array may have moved the export job.
-    const zkJ::_JobBasics_largePath* exportJob = jobs.at(jobs.count - 2);
-    if (!exportJob)
-        return LoadNoJobRecord;
+    const zkJ::_JobBasics_largePath* exportJob = jobs.records + exportIndex;
+    JobNote& note = d.scene.noteOf(jobs.count - 1);
+    note = d.scene.notes[size_t(exportIndex)];
+    note.exportJob = exportIndex;
     copyJob(*job, *exportJob);
     job->preID = static_cast<unsigned char>(jobs.count);
     job->waitForPreIDs[0] = static_cast<unsigned char>(jobs.count - 1);
@@ -183,21 +156,27 @@ LoadResult makeRenderJob(Driver& d, zkJ::_JobBasicsArray& jobs, const _zkString<
     job->imageSingleOutputFile = false;
     job->imageDir.clear();
     job->imageExtension.clear();
-    job->imageFileName.set(replaceHoudiniVariables(d.imagePath, job, hVariables, scene));
+    job->imageFileName.set(
+        replaceHoudiniVariables(d.imagePath, job, d.scene.variables, d.scene.sceneFile));
 
-    const _LOPNode* lop = d.isUSD ? linkedLop(d) : nullptr;
-    job->renderApp.appName.set(renderApplication(d, exportJob->imageSingleOutputFile, lop));
-    if (d.isUSD)
+    const bool usd = firstRenderer(d.marked, true) == Renderer::Usd;
+    const LopNode* lop = usd ? linkedLop(d) : nullptr;
+    note.renderer = renderApplication(d, lop);
+    const RendererRow& row = rendererRow(note.renderer);
+    // Only a USD export's renderer tells one file from many.
+    const bool singleFile = usd && exportJob->imageSingleOutputFile;
+    job->renderApp.appName.set(*(singleFile ? row.singleFileApplication : row.application));
+    if (usd)
         job->renderApp.rendererName.set(lop ? lop->renderer : QString());
-    writeAovChannels(d, *job, scene);
+    writeAovChannels(d, *job);
     job->splitImageFileInto_DirFileExt(true);
     return LoadOk;
 }
 
 /// The size written into the job. A driver whose toggle leaves the size to the
-/// camera gets 0 here, and a fraction of the camera's size remembered for the
+/// camera gets 0 here, and a fraction of the camera's size noted for the
 /// completion pass when it asks for one.
-void applyResolution(const Driver& d, zkJ::_JobBasics_largePath& job, const QString& layerKey)
+void applyResolution(const Driver& d, zkJ::_JobBasics_largePath& job, JobNote& note)
 {
     const bool ownSize = d.resToggle == Driver::Toggle::Absent
         || (d.resToggle == Driver::Toggle::On && d.resFraction <= 0);
@@ -206,9 +185,7 @@ void applyResolution(const Driver& d, zkJ::_JobBasics_largePath& job, const QStr
         job.imageHeight = static_cast<unsigned short>(d.overrideResY);
     }
     if (d.resToggle == Driver::Toggle::On && d.resFraction > 0)
-        nodeResFractions.insert(layerKey, d.resFraction);
-    else
-        nodeResFractions.remove(layerKey);
+        note.resolutionFraction = d.resFraction;
 }
 
 } // namespace
@@ -217,67 +194,66 @@ LoadResult makeDriverJobs(Driver& d)
 {
     if (d.path.contains("/karma"_L1)) {
         // A Karma driver is its own LOP node: its renderer comes from its name.
-        _LOPNode own;
+        LopNode own;
         own.nodePath = d.path;
         own.imageOut = d.imagePath;
-        own.imageUsesTake = d.takeFound;
-        LOPList.addLOP(own);
-        LOPList.addLOPFromOutNode(d.path, d.path);
-        d.isUSD = true;
-        d.isPicture = false;
+        own.imageUsesTake = d.scene.takeFound;
+        d.scene.lops.add(own);
+        d.scene.lops.addDriver(d.path, d.path);
+        d.marked = (d.marked | bit(Renderer::Usd)) & ~bit(Renderer::OpenGl);
     }
     if (!isUsableOutput(d.imagePath) || (d.exportMode && !isUsableOutput(d.exportPath))) {
-        emptyNodesfound = true;
+        d.scene.emptyDriverFound = true;
         return LoadOk;
     }
 
-    zkJ::_JobBasicsArray& jobs = *d.data.jobs;
-    const _zkString<500> noScene;
-    const _zkString<500>& scene = d.data.sceneFile ? *d.data.sceneFile : noScene;
-    zkJ::_JobBasics_largePath* job = nullptr;
-    if (!jobs.getNewJob(job))
+    Scene& scene = d.scene;
+    zkJ::_JobBasicsArray& jobs = scene.jobs;
+    zkJ::_JobBasics_largePath* job = appendJob(jobs);
+    if (!job)
         return LoadNoJobRecord;
     const int firstIndex = jobs.count - 1;
+    JobNote& note = scene.noteOf(firstIndex);
+    note = JobNote();
 
     job->renderApp.appName.set(appNameHoudini);
-    job->sceneDatabaseDir.set(DatabaseDir);
-    job->seqStart = seqStart;
-    job->seqEnd = seqEnd;
-    job->seqStep = static_cast<unsigned short>(seqStep);
+    job->sceneDatabaseDir.set(scene.databaseDir);
+    job->seqStart = d.frameStart;
+    job->seqEnd = d.frameEnd;
+    job->seqStep = static_cast<unsigned short>(d.frameStep);
     job->layer.set(d.path);
-    const QString layerKey = job->layer.toQString();
-    applyResolution(d, *job, layerKey);
+    applyResolution(d, *job, note);
     job->customDataSet_Str(QStringLiteral("zkSubmitterPluginVersion"), QLatin1String(zkVersion));
 
     removeBraces(d.imagePath);
     removeBraces(d.exportPath);
     composeAovFiles(d);
-    nodeActiveTakes.insert(layerKey, d.takeName);
+    note.take = d.takeName;
     markAovTokens(d.imagePath);
     markAovTokens(d.exportPath);
 
     if (!d.exportMode) {
         job->imageFileName.set(d.imagePath);
         job->renderApp.rendererName.set(renderRendererName(d, *job));
-        writeAovChannels(d, *job, scene);
+        writeAovChannels(d, *job);
     } else {
         job->imageFileName.set(d.exportPath);
         setExportRenderer(d, *job, jobs);
     }
-    job->imageFileName.set(
-        replaceHoudiniVariables(job->imageFileName.toQString(), job, hVariables, scene));
+    job->imageFileName.set(replaceHoudiniVariables(
+        job->imageFileName.toQString(), job, scene.variables, scene.sceneFile));
     job->splitImageFileInto_DirFileExt(true);
     job->preID = static_cast<unsigned char>(jobs.count);
 
     if (d.exportMode && !d.proxyCamera) {
-        const LoadResult result = makeRenderJob(d, jobs, scene);
+        const LoadResult result = makeRenderJob(d, firstIndex);
         if (result != LoadOk)
             return result;
     }
 
     // Simulations run best on one machine from start to end.
-    zkJ::_JobBasics_largePath* first = jobs.at(firstIndex);
-    if (first && first->layer.indexOf(_zkString<150>("_sim_"), 0) >= 0)
-        first->customDataSet_Str(zkJ::CUSTOMSubmitterParameter, SimulationOptions);
+    zkJ::_JobBasics_largePath& first = jobs.records[firstIndex];
+    if (first.layer.indexOf(_zkString<150>("_sim_"), 0) >= 0)
+        first.customDataSet_Str(zkJ::CUSTOMSubmitterParameter, SimulationOptions);
     return LoadOk;
 }

@@ -3,7 +3,8 @@
 #pragma once
 
 #include "plugin/loadResult.h"
-#include "plugin/zkPluginRecords.h"
+#include "plugin/renderers.h"
+#include "plugin/scene.h"
 
 #include <QString>
 
@@ -12,23 +13,23 @@ struct Driver
 {
     static constexpr int AovSlots = 20; ///< index 0 stays empty; AOVs are numbered 1 to 19
 
-    Driver(zkP::_dataPARS_LoadSceneFile& record, bool& take, int major, const QString& minor)
-        : data(record)
-        , takeFound(take)
-        , houdiniMajor(major)
-        , houdiniMinorText(minor)
+    explicit Driver(Scene& loading)
+        : scene(loading)
+        , frameStart(loading.frameStart)
+        , frameEnd(loading.frameEnd)
     { }
 
-    zkP::_dataPARS_LoadSceneFile& data;
-    /// The scene-wide take flag: an image path that names the active take sets it.
-    bool& takeFound;
-    const int houdiniMajor;
-    const QString& houdiniMinorText;
+    Scene& scene;
 
     QString path; ///< node path such as "/out/mantra1"; the jobs' layer
     QString imagePath;
     QString exportPath; ///< scene-description file of an export
     QString takeName;
+    /// "trange" on: the driver's own "f" line sets its frames, else the scene's range holds.
+    bool ownFrameRange = false;
+    int frameStart;
+    int frameEnd;
+    int frameStep = 1;
     bool exportMode = false;
     bool isSingleFile = false; ///< one output file for the whole frame range
     bool proxyCamera = false; ///< a Redshift proxy export: no render job
@@ -45,15 +46,12 @@ struct Driver
     QString aovSuffix[AovSlots];
     QString aovFormat[AovSlots];
 
-    bool isArnold = false;
-    bool isRedshift = false;
+    /// The renderers the section's lines have named so far; the first in
+    /// table order is the driver's.
+    RendererSet marked = 0;
     bool prependPicture = false; ///< Redshift: picture values go in front of the path
-    bool isVRay = false;
-    bool isRenderMan = false;
-    bool isUSD = false;
-    bool isPicture = false;
-    bool isGeometry = false;
-    bool isAlembic = false;
+
+    bool marks(Renderer r) const { return (marked & bit(r)) != 0; }
 };
 
 /// The end of a driver's section: its own LOP entry for a Karma driver, then

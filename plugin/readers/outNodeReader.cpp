@@ -9,7 +9,6 @@
 // export toggle read after a Redshift line is not Mantra's toggle.
 #include "outNodeJobs.h"
 #include "plugin/parameterLine.h"
-#include "plugin/parserState.h"
 #include "plugin/paths/imageTokens.h"
 #include "readerCommon.h"
 #include "sectionLoop.h"
@@ -41,17 +40,17 @@ Step picture(Driver& d, const QString& line)
 {
     bool singleFile = false;
     const bool accepted
-        = replaceImageOutVars(line, d.prependPicture, d.imagePath, d.takeFound, singleFile);
+        = replaceImageOutVars(line, d.prependPicture, d.imagePath, d.scene.takeFound, singleFile);
     // An Alembic archive without a frame token holds the whole range in one file.
-    if (d.isAlembic && accepted && singleFile)
+    if (d.marks(Renderer::Alembic) && accepted && singleFile)
         d.isSingleFile = true;
     return Step::Next;
 }
 
-Step frameRangeMode(Driver&, const QString& line)
+Step frameRangeMode(Driver& d, const QString& line)
 {
     if (line.contains("\"on\""_L1) || line.contains("\"normal\""_L1))
-        trange = true;
+        d.ownFrameRange = true;
     return Step::Next;
 }
 
@@ -74,41 +73,41 @@ int intBefore(const QString& text, QChar stop)
 
 /// "f" holds start, end and step, separated by tabs; start and end may be
 /// channel references "[ f1\t1 ]" and "[ f2\t240 ]".
-Step frameNumbers(Driver&, const QString& line)
+Step frameNumbers(Driver& d, const QString& line)
 {
     QString v = bracketValue(line);
     if (v.contains("f1"_L1, Qt::CaseInsensitive)) {
         dropThrough(v, u"f1", Qt::CaseInsensitive);
         v = v.trimmed();
-        seqStart = intBefore(v, u' ');
+        d.frameStart = intBefore(v, u' ');
         if (v.contains("f2"_L1, Qt::CaseInsensitive)) {
             dropThrough(v, u"f2", Qt::CaseInsensitive);
-            seqEnd = intBefore(v, u' ');
+            d.frameEnd = intBefore(v, u' ');
             dropThrough(v, u"]");
             v.remove(0, 1);
         } else {
             dropThrough(v, u"]");
             v.remove(0, 1);
             v = v.trimmed();
-            seqEnd = intBefore(v, u'\t');
+            d.frameEnd = intBefore(v, u'\t');
             dropThrough(v, u"\t");
         }
-        seqStep = QStringView(v).trimmed().toInt();
+        d.frameStep = QStringView(v).trimmed().toInt();
         return Step::Next;
     }
     if (!v.contains(u'\t'))
         return Step::Next;
-    seqStart = intBefore(v, u'\t');
+    d.frameStart = intBefore(v, u'\t');
     dropThrough(v, u"\t");
     v = v.trimmed();
     if (!v.contains(u'\t')) {
-        seqEnd = v.toInt();
-        seqStep = 1;
+        d.frameEnd = v.toInt();
+        d.frameStep = 1;
         return Step::Next;
     }
-    seqEnd = intBefore(v, u'\t');
+    d.frameEnd = intBefore(v, u'\t');
     dropThrough(v, u"\t");
-    seqStep = v.toInt();
+    d.frameStep = v.toInt();
     return Step::Next;
 }
 
@@ -146,12 +145,11 @@ Step camera(Driver& d, const QString& line)
 {
     const QString v = parameterLine::withoutSelfReference(
         unquotedBracketValue(line), parameterLine::parameterName(line));
-    // A camera chosen by an expression cannot be resolved without Houdini.
-    if (v.contains("chs("_L1) || v.contains("chsop("_L1))
+    if (parameterLine::isChannelExpression(v))
         return Step::Next;
     d.proxyCamera = v.startsWith("proxy_export"_L1, Qt::CaseInsensitive);
     if (!d.proxyCamera)
-        camList.addCamFromOutNode(_zkString8_allSize<150>(v), d.path);
+        d.scene.cameras.addDriver(_zkString8_allSize<150>(v), d.path);
     return Step::Next;
 }
 
@@ -177,8 +175,8 @@ Step lopLink(Driver& d, const QString& line)
     const QString v = unquotedBracketValue(line);
     if (!v.contains("/hdprman"_L1))
         return Step::Next;
-    const int index = LOPList.addLOPFromOutNode(v, d.path);
-    const QString& imageOut = LOPList.list.at(index).imageOut;
+    const int index = d.scene.lops.addDriver(v, d.path);
+    const QString& imageOut = d.scene.lops.list.at(index).imageOut;
     if (!imageOut.isEmpty())
         d.imagePath = imageOut;
     return Step::Next;
@@ -188,9 +186,9 @@ Step lopLink(Driver& d, const QString& line)
 Step usdOutput(Driver& d, const QString& line)
 {
     bool singleFile = false;
-    if (replaceImageOutVars(line, false, d.exportPath, d.takeFound, singleFile))
+    if (replaceImageOutVars(line, false, d.exportPath, d.scene.takeFound, singleFile))
         d.isSingleFile = singleFile;
-    d.isUSD = true;
+    d.marked |= bit(Renderer::Usd);
     d.exportMode = true;
     return Step::Next;
 }
@@ -199,8 +197,8 @@ Step usdOutput(Driver& d, const QString& line)
 Step lopRenderer(Driver& d, const QString& line)
 {
     const QString v = unquotedBracketValue(line);
-    const int index = LOPList.addLOPFromOutNode(v, d.path);
-    LOPList.list[index].setRenderer(v);
+    const int index = d.scene.lops.addDriver(v, d.path);
+    d.scene.lops.list[index].setRenderer(v);
     return Step::Next;
 }
 
@@ -221,17 +219,20 @@ Step vrayExportMode(Driver& d, const QString& line)
 /// "fileperframe": Houdini 18.0 writes a single scene file when it is off.
 Step filePerFrame(Driver& d, const QString& line)
 {
-    if (d.houdiniMajor == 18 && d.houdiniMinorText.startsWith(u'0') && !d.exportPath.contains(u'%'))
+    if (d.scene.houdiniMajor == 18 && d.scene.houdiniMinorForReaders.startsWith(u'0')
+        && !d.exportPath.contains(u'%'))
         d.isSingleFile = !line.contains("on"_L1);
     return Step::Next;
 }
 
-/// A scene-description file; the first accepted one wins (later lines meet rule 33).
+/// A scene-description file; the first accepted one wins (later lines meet the
+/// rule that ignores every line once an export file is known).
 Step exportFile(Driver& d, const QString& line)
 {
     bool singleFile = false;
-    const bool accepted = replaceImageOutVars(line, false, d.exportPath, d.takeFound, singleFile);
-    if (d.isVRay && accepted && singleFile)
+    const bool accepted
+        = replaceImageOutVars(line, false, d.exportPath, d.scene.takeFound, singleFile);
+    if (d.marks(Renderer::VRay) && accepted && singleFile)
         d.isSingleFile = true;
     return Step::Next;
 }
@@ -286,17 +287,17 @@ Step aov(Driver& d, const QString& line)
     }
     // An AOV written next to the scene ties the render to the scene's folder.
     if (value.contains("$HIP"_L1, Qt::CaseInsensitive))
-        HIPFound_DisableLocalScene = true;
+        d.scene.aovBesideScene = true;
     return Step::Next;
 }
 
 using Handler = Step (*)(Driver&, const QString&);
 
-/// A line that also tells the renderer: its flag is set before the value is read.
-template <bool Driver::*Flag, Handler Then>
-Step flagThen(Driver& d, const QString& line)
+/// A line that also names the renderer: it is marked before the value is read.
+template <Renderer R, Handler Then>
+Step markThen(Driver& d, const QString& line)
 {
-    d.*Flag = true;
+    d.marked |= bit(R);
     return Then(d, line);
 }
 
@@ -304,7 +305,7 @@ Step flagThen(Driver& d, const QString& line)
 template <Handler Then>
 Step redshiftThen(Driver& d, const QString& line)
 {
-    d.isRedshift = true;
+    d.marked |= bit(Renderer::Redshift);
     d.prependPicture = true;
     return Then(d, line);
 }
@@ -314,9 +315,9 @@ Step abandon(Driver&, const QString&)
     return Step::Abandon;
 }
 
-bool trangeIsOn(const Driver&)
+bool ownFrameRange(const Driver& d)
 {
-    return trange;
+    return d.ownFrameRange;
 }
 
 // ---- the rule table --------------------------------------------------------
@@ -325,65 +326,63 @@ using Condition = bool (*)(const Driver&);
 
 struct Rule
 {
-    int number; ///< the rule's place in the order, for the reader of this table
     std::array<QLatin1String, 2> keywords; ///< none: any line
     Condition when; ///< null: always
     Handler handle; ///< null: the line is taken and ignored
 };
 
+/// A renderer's export toggles count until a renderer that blocks them was named.
+template <Renderer R>
+Rule toggleRule()
+{
+    return { rendererRow(R).exportToggles,
+        [](const Driver& d) { return (d.marked & rendererRow(R).blockedBy) == 0; }, exportToggle };
+}
+
 const Rule Rules[] = {
-    { 1, { "trange"_L1 }, nullptr, frameRangeMode },
-    { 2, { "f\t"_L1 }, trangeIsOn, frameNumbers },
-    { 3, { "vm_picture\t"_L1 }, nullptr, picture },
-    { 4, { "copoutput\t"_L1 }, nullptr, picture },
-    { 5, { "ar_picture\t"_L1 }, nullptr, flagThen<&Driver::isArnold, picture> },
-    { 6, { "RS_outputFileNamePrefix\t"_L1 }, nullptr, redshiftThen<picture> },
-    { 7, { "picture\t"_L1 }, nullptr, flagThen<&Driver::isPicture, picture> },
-    { 8, { "sopoutput\t"_L1 }, nullptr, flagThen<&Driver::isGeometry, picture> },
-    { 9, { "file\t"_L1 }, nullptr, flagThen<&Driver::isGeometry, picture> },
-    { 10, { "filename\t"_L1 }, nullptr, flagThen<&Driver::isAlembic, picture> },
-    { 11, { "SettingsOutput_img_file_path\t"_L1 }, nullptr, flagThen<&Driver::isVRay, picture> },
-    { 12, { "outputimage\t"_L1 }, nullptr, flagThen<&Driver::isUSD, picture> },
-    { 13, { "ri_display_0\t"_L1, "ri_display\t"_L1 }, nullptr,
-        flagThen<&Driver::isRenderMan, picture> },
-    { 14, { "take\t"_L1 }, nullptr, take },
-    { 15, { "camera\t"_L1, "RS_renderCamera\t"_L1 }, nullptr, camera },
-    { 16, { "RS_outputFileFormat\t"_L1 }, nullptr, redshiftExtension },
-    { 17, { "loppath\t"_L1 }, nullptr, lopLink },
-    { 18, { "lopoutput\t"_L1 }, nullptr, usdOutput },
-    { 19, { "renderer\t"_L1 }, nullptr, lopRenderer },
-    { 20, { "soho_outputmode"_L1 },
-        [](const Driver& d) { return !d.isArnold && !d.isVRay && !d.isRenderMan && !d.isRedshift; },
-        exportToggle },
-    { 21, { "ar_ass_export_enable\t"_L1 },
-        [](const Driver& d) { return !d.isRenderMan && !d.isVRay && !d.isRedshift; },
-        exportToggle },
-    { 22, { "RS_archive_enable\t"_L1 },
-        [](const Driver& d) { return !d.isRenderMan && !d.isArnold && !d.isVRay; }, exportToggle },
-    { 23, { "rib_outputmode\t"_L1 },
-        [](const Driver& d) { return !d.isArnold && !d.isVRay && !d.isRedshift; }, exportToggle },
-    { 24, { "diskfile\t"_L1 },
-        [](const Driver& d) { return !d.isArnold && !d.isVRay && !d.isRedshift; }, exportToggle },
-    { 25, { "render_export_mode\t"_L1 }, nullptr, vrayExportMode },
-    { 26, { "fileperframe\t"_L1 }, nullptr, filePerFrame },
-    { 27, { "res_override\t"_L1, "RS_overrideRes\t"_L1 }, nullptr, resolution },
-    // The resolution toggle and fraction belong with rule 27 and, like it,
-    // must not be hidden by an export file read earlier (rule 33).
-    { 27, { "override_camerares\t"_L1, "RS_overrideCameraRes\t"_L1 }, nullptr, resolutionToggle },
-    { 27, { "res_fraction\t"_L1 }, nullptr, resolutionFraction },
-    { 28, { aovKeyword(AovPart::ArnoldFile) }, nullptr, aov<AovPart::ArnoldFile> },
-    { 29, { aovKeyword(AovPart::RedshiftPrefix) }, nullptr, aov<AovPart::RedshiftPrefix> },
-    { 30, { aovKeyword(AovPart::RedshiftSuffix) }, nullptr, aov<AovPart::RedshiftSuffix> },
-    { 31, { aovKeyword(AovPart::RedshiftFormat) }, nullptr, aov<AovPart::RedshiftFormat> },
+    { { "trange"_L1 }, nullptr, frameRangeMode },
+    { { "f\t"_L1 }, ownFrameRange, frameNumbers },
+    { { "vm_picture\t"_L1 }, nullptr, picture },
+    { { "copoutput\t"_L1 }, nullptr, picture },
+    { { "ar_picture\t"_L1 }, nullptr, markThen<Renderer::Arnold, picture> },
+    { { "RS_outputFileNamePrefix\t"_L1 }, nullptr, redshiftThen<picture> },
+    { { "picture\t"_L1 }, nullptr, markThen<Renderer::OpenGl, picture> },
+    { { "sopoutput\t"_L1 }, nullptr, markThen<Renderer::Geometry, picture> },
+    { { "file\t"_L1 }, nullptr, markThen<Renderer::Geometry, picture> },
+    { { "filename\t"_L1 }, nullptr, markThen<Renderer::Alembic, picture> },
+    { { "SettingsOutput_img_file_path\t"_L1 }, nullptr, markThen<Renderer::VRay, picture> },
+    { { "outputimage\t"_L1 }, nullptr, markThen<Renderer::Usd, picture> },
+    { { "ri_display_0\t"_L1, "ri_display\t"_L1 }, nullptr, markThen<Renderer::RenderMan, picture> },
+    { { "take\t"_L1 }, nullptr, take },
+    { { "camera\t"_L1, "RS_renderCamera\t"_L1 }, nullptr, camera },
+    { { "RS_outputFileFormat\t"_L1 }, nullptr, redshiftExtension },
+    { { "loppath\t"_L1 }, nullptr, lopLink },
+    { { "lopoutput\t"_L1 }, nullptr, usdOutput },
+    { { "renderer\t"_L1 }, nullptr, lopRenderer },
+    toggleRule<Renderer::Mantra>(),
+    toggleRule<Renderer::Arnold>(),
+    toggleRule<Renderer::Redshift>(),
+    toggleRule<Renderer::RenderMan>(),
+    { { "render_export_mode\t"_L1 }, nullptr, vrayExportMode },
+    { { "fileperframe\t"_L1 }, nullptr, filePerFrame },
+    { { "res_override\t"_L1, "RS_overrideRes\t"_L1 }, nullptr, resolution },
+    // The resolution toggle and fraction belong with the size and, like it,
+    // must not be hidden by an export file read earlier.
+    { { "override_camerares\t"_L1, "RS_overrideCameraRes\t"_L1 }, nullptr, resolutionToggle },
+    { { "res_fraction\t"_L1 }, nullptr, resolutionFraction },
+    { { aovKeyword(AovPart::ArnoldFile) }, nullptr, aov<AovPart::ArnoldFile> },
+    { { aovKeyword(AovPart::RedshiftPrefix) }, nullptr, aov<AovPart::RedshiftPrefix> },
+    { { aovKeyword(AovPart::RedshiftSuffix) }, nullptr, aov<AovPart::RedshiftSuffix> },
+    { { aovKeyword(AovPart::RedshiftFormat) }, nullptr, aov<AovPart::RedshiftFormat> },
     // An Alembic driver with these lines reads geometry in rather than writing it.
-    { 32, { "objectPath"_L1, "missing_texture_color"_L1 },
-        [](const Driver& d) { return d.isAlembic; }, abandon },
+    { { "objectPath"_L1, "missing_texture_color"_L1 },
+        [](const Driver& d) { return d.marks(Renderer::Alembic); }, abandon },
     // Once a scene-description file is known, later file lines are not read.
-    { 33, {}, [](const Driver& d) { return !d.exportPath.isEmpty(); }, nullptr },
-    { 34, { "soho_diskfile\t"_L1 }, nullptr, exportFile },
-    { 35, { "ar_ass_file"_L1 }, nullptr, flagThen<&Driver::isArnold, exportFile> },
-    { 36, { "RS_archive_file"_L1 }, nullptr, redshiftThen<exportFile> },
-    { 37, { "render_export_filepath"_L1 }, nullptr, flagThen<&Driver::isVRay, exportFile> },
+    { {}, [](const Driver& d) { return !d.exportPath.isEmpty(); }, nullptr },
+    { { "soho_diskfile\t"_L1 }, nullptr, exportFile },
+    { { "ar_ass_file"_L1 }, nullptr, markThen<Renderer::Arnold, exportFile> },
+    { { "RS_archive_file"_L1 }, nullptr, redshiftThen<exportFile> },
+    { { "render_export_filepath"_L1 }, nullptr, markThen<Renderer::VRay, exportFile> },
 };
 
 /// The rules a line may meet, by its first byte: most lines of a section begin
@@ -415,8 +414,8 @@ struct RuleIndex
     {
         for (QLatin1String keyword : rule.keywords) {
             if (!keyword.isEmpty()
-                && sectionLoop::asciiLower(static_cast<unsigned char>(keyword.front().toLatin1()))
-                    == sectionLoop::asciiLower(b))
+                && zkAscii::lower(static_cast<unsigned char>(keyword.front().toLatin1()))
+                    == zkAscii::lower(b))
                 return true;
         }
         return false;
@@ -456,19 +455,12 @@ QString driverPathOf(const QString& header)
 
 } // namespace
 
-LoadResult loadOutNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& line,
-    bool& takeFound, const int& houdiniMajor, const QString& houdiniMinorForReaders)
+LoadResult readDriverSection(Scene& scene, LineSource& in, QString& line)
 {
-    if (!data || !data->jobs)
-        return LoadNoJobRecord;
-    if (data->jobs->count > MaxJobsBeforeDriver)
+    if (scene.jobs.count > MaxJobsBeforeDriver)
         return LoadOk;
 
-    trange = false;
-    seqStart = GLseqStart;
-    seqEnd = GLseqEnd;
-    seqStep = 1;
-    Driver d(*data, takeFound, houdiniMajor, houdiniMinorForReaders);
+    Driver d(scene);
     d.path = driverPathOf(line);
 
     static const RuleIndex index;

@@ -26,7 +26,7 @@ bool SectionLine::startsWith(QLatin1String keyword) const
         const auto c = static_cast<unsigned char>(bytes[i]);
         if (c >= 0x80)
             return text().startsWith(keyword, Qt::CaseInsensitive);
-        if (asciiLower(c) != asciiLower(static_cast<unsigned char>(keyword[i].toLatin1())))
+        if (zkAscii::lower(c) != zkAscii::lower(static_cast<unsigned char>(keyword[i].toLatin1())))
             return false;
     }
     return true;

@@ -10,6 +10,7 @@
 #pragma once
 
 #include "plugin/lineSource.h"
+#include "shared/zkAscii.h"
 
 #include <QByteArrayView>
 #include <QLatin1String>
@@ -23,11 +24,6 @@ namespace sectionLoop {
 inline bool isAsciiSpace(unsigned char c)
 {
     return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
-inline unsigned char asciiLower(unsigned char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<unsigned char>(c - 'A' + 'a') : c;
 }
 
 /// One line of a section: its bytes trimmed of ASCII blanks, decoded on demand.
@@ -76,7 +72,7 @@ public:
             return;
         const auto c = static_cast<unsigned char>(keyword.front().toLatin1());
         bytes.set(c);
-        bytes.set(asciiLower(c));
+        bytes.set(zkAscii::lower(c));
         if (c >= 'a' && c <= 'z')
             bytes.set(c - 'a' + 'A');
     }

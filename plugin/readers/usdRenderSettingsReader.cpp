@@ -1,8 +1,5 @@
-#include "elementSection.h"
-#include "plugin/loadResult.h"
+#include "plugin/elements/elementSection.h"
 #include "plugin/parameterLine.h"
-#include "plugin/parserState.h"
-#include "plugin/paths/houdiniVariables.h"
 #include "plugin/paths/imageTokens.h"
 #include "readerCommon.h"
 #include "sectionLoop.h"
@@ -46,45 +43,11 @@ QString settingValue(const QString& line)
         parameterLine::unquotedBracketValue(line), parameterLine::parameterName(line));
 }
 
-/// The archive file becomes the image output of every Houdini job of the
-/// entry's first registered driver, expanded and split again. 7 when the
-/// array yields no record for an index below its count.
-LoadResult rewriteDriverJobs(
-    zkP::_dataPARS_LoadSceneFile* data, const _USD_RendersettingNode& entry)
-{
-    if (entry.renderNodes.isEmpty() || !data || !data->jobs || data->jobs->count <= 0)
-        return LoadOk;
-
-    const _zkString<25> houdini(appNameHoudini);
-    const _zkString<150> driver(entry.renderNodes.first());
-    const _zkString<1000> name(houdiniNodeName(entry.nodePath));
-    const _zkString<500> noScene;
-    const _zkString<500>& sceneFile = data->sceneFile ? *data->sceneFile : noScene;
-
-    zkJ::_JobBasicsArray& jobs = *data->jobs;
-    for (int i = 0; i < jobs.count; ++i) {
-        zkJ::_JobBasics_largePath* job = jobs.at(i);
-        if (!job)
-            return LoadNoJobRecord;
-        if (!job->renderApp.appName.isEqual(houdini) || !job->layer.isEqual(driver))
-            continue;
-        job->imageFileName.set(entry.archiveFile);
-        job->imageDir.clear();
-        job->imageExtension.clear();
-        job->imageFileName.replace(_zkString<1000>("$OS"), name);
-        job->imageFileName.replace(_zkString<1000>("${OS}"), name);
-        job->imageFileName.set(
-            replaceHoudiniVariables(job->imageFileName.toQString(), job, hVariables, sceneFile));
-        job->splitImageFileInto_DirFileExt(true);
-    }
-    return LoadOk;
-}
-
 } // namespace
 
-LoadResult load_USD_RS_Node(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& line)
+LoadResult readRenderSettingsSection(Scene& scene, LineSource& in, QString& line)
 {
-    _USD_RendersettingNode node;
+    RenderSettingsNode node;
     node.nodePath = nodePathStage(line);
 
     static const sectionLoop::KeywordStarts starts = [] {
@@ -98,9 +61,7 @@ LoadResult load_USD_RS_Node(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, 
               switch (classify(l)) {
               case RSKeyword::Camera: {
                   const QString camera = settingValue(l.text());
-                  // A channel expression names no camera the plugin could resolve.
-                  if (!camera.contains(QLatin1String("chs("))
-                      && !camera.contains(QLatin1String("chsop(")))
+                  if (!parameterLine::isChannelExpression(camera))
                       node.camera = camera;
                   break;
               }
@@ -122,8 +83,7 @@ LoadResult load_USD_RS_Node(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, 
               }
               return true;
           });
-    if (end != sectionLoop::SectionEnd::Closed)
-        return LoadOk;
-    const int index = USD_RSList.add(node);
-    return rewriteDriverJobs(data, USD_RSList.list.at(index));
+    if (end == sectionLoop::SectionEnd::Closed)
+        scene.renderSettings.add(node);
+    return LoadOk;
 }

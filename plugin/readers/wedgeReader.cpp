@@ -1,6 +1,5 @@
-#include "elementSection.h"
+#include "plugin/elements/elementSection.h"
 #include "plugin/parameterLine.h"
-#include "plugin/parserState.h"
 #include "readerCommon.h"
 #include "sectionLoop.h"
 
@@ -30,7 +29,7 @@ enum class ParamLine { Used, Ignored, Invalid, EndsSection };
 
 /// "range1\t[ 0\tlocks=0 ]\t(\t0,5\t1,5\t)": decimal commas are accepted; a
 /// value without a tab gives both ends the same number.
-void readRange(const QString& line, _wedgeParams& param)
+void readRange(const QString& line, WedgeParameter& param)
 {
     QString value = parameterLine::unquotedBracketValue(line);
     value.replace(u',', u'.');
@@ -41,7 +40,7 @@ void readRange(const QString& line, _wedgeParams& param)
 
 /// A numbered parameter line ("name2", "steps2", "range2"), its keyword at the
 /// start of \p line.
-ParamLine readParamLine(const QString& line, const ParamKeyword& kw, _wedgeNode& wedge)
+ParamLine readParamLine(const QString& line, const ParamKeyword& kw, WedgeNode& wedge)
 {
     const QStringView rest = QStringView(line).mid(kw.keyword.size());
     const qsizetype tab = rest.indexOf(u'\t');
@@ -55,8 +54,8 @@ ParamLine readParamLine(const QString& line, const ParamKeyword& kw, _wedgeNode&
         return ParamLine::Invalid;
 
     while (wedge.params.size() < number)
-        wedge.params.append(_wedgeParams());
-    _wedgeParams& param = wedge.params[number - 1];
+        wedge.params.append(WedgeParameter());
+    WedgeParameter& param = wedge.params[number - 1];
     switch (kw.kind) {
     case ParamKind::Name:
         param.name = parameterLine::unquotedBracketValue(line);
@@ -79,7 +78,7 @@ QString absoluteDriver(const QString& driver, const QString& wedgePath)
     return wedgePath.left(wedgePath.lastIndexOf(u'/') + 1) + driver.mid(3);
 }
 
-bool isListed(_wedgeNode& wedge)
+bool isListed(WedgeNode& wedge)
 {
     return !wedge.driver.isEmpty() && wedge.totalWedges() > 0
         && wedge.wedgeMethod.compare(QLatin1String("channel"), Qt::CaseInsensitive) == 0;
@@ -87,10 +86,9 @@ bool isListed(_wedgeNode& wedge)
 
 } // namespace
 
-bool loadWedgeNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& line)
+LoadResult readWedgeSection(Scene& scene, LineSource& in, QString& line)
 {
-    (void)data;
-    _wedgeNode wedge;
+    WedgeNode wedge;
     wedge.nodePath = nodePathOutObj(line);
     bool invalid = false;
 
@@ -125,6 +123,6 @@ bool loadWedgeNode(zkP::_dataPARS_LoadSceneFile* data, LineSource& in, QString& 
               return true;
           });
     if (end == sectionLoop::SectionEnd::Closed && !invalid && isListed(wedge))
-        wedges.append(wedge);
-    return true;
+        scene.wedges.append(wedge);
+    return LoadOk;
 }

@@ -44,8 +44,8 @@ TEST(PluginExports, OnlyEntryPointsAndJobMethods)
         EXPECT_TRUE(jobSymbol.match(name).hasMatch()) << qPrintable(name);
 
     const QString demangled = exportedSymbols(true).join(u'\n');
-    for (const char* internal : { "resetParserState", "loadOutNode", "loadCamNode", "loadWedgeNode",
-             "loadLOPNode", "load_USD_RS_Node", "LineSource", "hVariables" })
+    for (const char* internal : { "scanScene", "readDriverSection", "readCameraSection",
+             "readWedgeSection", "readLopSection", "loadScene", "LineSource", "SceneVariable" })
         EXPECT_FALSE(demangled.contains(QLatin1String(internal))) << internal;
 }
 

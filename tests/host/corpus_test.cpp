@@ -1,6 +1,6 @@
 // Real scenes from public projects, described by a manifest beside them. The
 // folder lives outside the project; without it these tests are skipped.
-#include "plugin/parserState.h"
+#include "plugin/scanner.h"
 #include "support/scanState.h"
 #include "tools/host/hostRecords.h"
 
@@ -71,11 +71,20 @@ TEST(Corpus, EveryRealSceneGivesSaneJobs)
                 << "job " << i;
         }
         // The scene's frame range and camera sizes as the manifest records them.
+        QFile file(scene.value(QStringLiteral("path")));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        QTextStream stream(&file);
+        LineSource in(stream);
+        LoadContext ctx;
+        ctx.data = &host.record;
+        ctx.scenePath = file.fileName();
+        Scene scanned(ctx);
+        scanScene(scanned, in);
         static const QRegularExpression frange(QStringLiteral("frange (-?\\d+) (-?\\d+)"));
         const QRegularExpressionMatch range = frange.match(scene.value(QStringLiteral("notes")));
         if (range.hasMatch()) {
-            EXPECT_EQ(GLseqStart, range.captured(1).toInt());
-            EXPECT_EQ(GLseqEnd, range.captured(2).toInt());
+            EXPECT_EQ(scanned.frameStart, range.captured(1).toInt());
+            EXPECT_EQ(scanned.frameEnd, range.captured(2).toInt());
         }
         static const QRegularExpression camera(QStringLiteral("^obj/(\\S+) (\\d+)x(\\d+)$"));
         for (const QString& entry : scene.value(QStringLiteral("cameras")).split(u',')) {
@@ -86,7 +95,7 @@ TEST(Corpus, EveryRealSceneGivesSaneJobs)
                 && !path.contains(QStringLiteral("stereocam")))
                 continue;
             const _zkString8_allSize<150> name(path);
-            for (const _camNode& known : camList.list) {
+            for (const CameraNode& known : scanned.cameras.list) {
                 if (cam.hasMatch() && known.name.isEqual(name)) {
                     EXPECT_EQ(known.resX, cam.captured(2).toInt()) << qPrintable(entry);
                     EXPECT_EQ(known.resY, cam.captured(3).toInt()) << qPrintable(entry);
@@ -113,9 +122,9 @@ TEST(Corpus, MarkedScanAgreesWithEveryLineScan)
             LoadContext ctx;
             ctx.data = &host.record;
             ctx.scenePath = path;
-            resetParserState();
-            described[mode == ScanMode::EveryLine] = zkTest::describeScan(
-                scanScene(ctx, in, SectionReaders(), mode), *host.jobs.array);
+            Scene scanned(ctx);
+            const LoadResult result = scanScene(scanned, in, SectionReaders(), mode);
+            described[mode == ScanMode::EveryLine] = zkTest::describeScan(result, scanned);
         }
         EXPECT_EQ(described[0], described[1]) << qPrintable(path);
     }

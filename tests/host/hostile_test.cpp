@@ -2,7 +2,7 @@
 // known result and a bounded number of jobs, whatever the file holds. Classes
 // that grew a list or a path without bound once are sized so that the old
 // quadratic or exponential work would not end in the test's time.
-#include "plugin/parserState.h"
+#include "plugin/renderers.h"
 #include "tools/host/hostRecords.h"
 
 #include <QDir>

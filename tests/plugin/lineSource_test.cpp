@@ -9,9 +9,9 @@ namespace {
 QStringList readAll(LineSource& source)
 {
     QStringList lines;
-    QString line;
-    while (source.next(line))
-        lines.append(line);
+    QByteArrayView raw;
+    while (source.nextRaw(raw))
+        lines.append(LineSource::decode(raw));
     return lines;
 }
 
@@ -57,16 +57,14 @@ TEST(LineSource, LinesAcrossChunkBoundariesStayWhole)
     EXPECT_EQ(readAll(text), expected);
 }
 
-TEST(LineSource, AtEndAndAfterTheLastLine)
+TEST(LineSource, NothingAfterTheLastLine)
 {
     zkTest::TextLines lines("one\ntwo\n");
-    QString line;
-    ASSERT_TRUE(lines.source.next(line));
-    EXPECT_FALSE(lines.source.atEnd());
-    ASSERT_TRUE(lines.source.next(line));
-    EXPECT_TRUE(lines.source.atEnd());
-    EXPECT_FALSE(lines.source.next(line));
-    EXPECT_TRUE(line.isEmpty());
+    QByteArrayView raw;
+    ASSERT_TRUE(lines.source.nextRaw(raw));
+    ASSERT_TRUE(lines.source.nextRaw(raw));
+    EXPECT_EQ(raw, QByteArrayView("two"));
+    EXPECT_FALSE(lines.source.nextRaw(raw));
 }
 
 TEST(LineSource, LeadingByteOrderMarkIsSkipped)

@@ -1,7 +1,6 @@
 // Hostile input: every prefix of a valid scene and many damaged copies of it
 // must scan to the end with a result code, never a crash or a hang. Run under
 // the sanitizers, this also catches reads past a buffer.
-#include "plugin/parserState.h"
 #include "plugin/scanner.h"
 #include "support/scanState.h"
 #include "support/textLines.h"
@@ -11,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <vector>
 
 namespace {
 
@@ -60,43 +60,36 @@ class HostileScene : public ::testing::Test
 protected:
     int scan(const QByteArray& text, ScanMode mode = ScanMode::Marked)
     {
-        resetParserState();
-        // A registered driver with a job makes the render-settings reader
-        // rewrite that job, so damaged archive paths reach the split too.
-        USD_RSList.addFromROP(
-            QStringLiteral("/stage/rendersettings1"), QStringLiteral("/out/mantra1"));
         jobs.clear();
-        zkJ::_JobBasics_largePath* job = nullptr;
-        if (!jobs.getNewJob(job))
-            return -1;
-        job->renderApp.appName.set(appNameHoudini);
-        job->layer.set(QStringLiteral("/out/mantra1"));
-        job->sceneDatabaseDir.set(QStringLiteral("/proj/shot/"));
         zkTest::TextLines lines(text);
         LoadContext ctx;
         ctx.data = &record;
         ctx.scenePath = scenePath.toQString();
-        const ScanResult result = scanScene(ctx, lines.source, SectionReaders(), mode);
-        state = zkTest::describeScan(result, jobs);
-        return result.result;
+        Scene scene(ctx);
+        const LoadResult result = scanScene(scene, lines.source, SectionReaders(), mode);
+        state = zkTest::describeScan(result, scene);
+        lists = { scene.cameras.list.size(), scene.lops.list.size(),
+            scene.renderSettings.list.size(), scene.wedges.size() };
+        return result;
     }
 
     zkJ::_JobBasicsArray jobs;
     _zkString<500> scenePath { QStringLiteral("/proj/shot/scene.hip") };
     zkP::_dataPARS_LoadSceneFile record { &scenePath, &jobs, nullptr };
     QString state; ///< what the last scan left behind
+    /// Entries of the camera, LOP, render-settings and wedge lists after the last scan.
+    std::vector<qsizetype> lists;
 };
 
 TEST_F(HostileScene, ValidSceneFillsEveryList)
 {
     ASSERT_EQ(scan(ValidScene), 1);
-    EXPECT_EQ(jobs.records[0].imageFileName.toQString(), QStringLiteral("a."));
-    EXPECT_EQ(jobs.records[0].imageDir.toQString(), QStringLiteral("<Database>/"));
-    EXPECT_EQ(jobs.records[0].imageExtension.toQString(), QStringLiteral(".rs"));
-    EXPECT_EQ(camList.list.size(), 2);
-    EXPECT_EQ(LOPList.list.size(), 1);
-    EXPECT_EQ(USD_RSList.list.size(), 1);
-    EXPECT_EQ(wedges.size(), 1);
+    // The driver's "$HIP/render/\u00e9.$F4.exr": "$HIP/" is the scene's folder, "<Database>".
+    ASSERT_EQ(jobs.count, 1);
+    EXPECT_EQ(jobs.records[0].imageDir.toQString(), QStringLiteral("<Database>render/"));
+    EXPECT_EQ(jobs.records[0].imageFileName.toQString(), QStringLiteral("\u00e9."));
+    EXPECT_EQ(jobs.records[0].imageExtension.toQString(), QStringLiteral(".exr"));
+    EXPECT_EQ(lists, (std::vector<qsizetype> { 2, 1, 1, 1 }));
 }
 
 TEST_F(HostileScene, EveryPrefixScans)

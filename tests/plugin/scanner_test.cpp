@@ -2,7 +2,6 @@
 // scanner_*). What no scene can make is pinned here: a driver reader's failure
 // ending the scan, and the database directory of a scene path that is not
 // absolute.
-#include "plugin/parserState.h"
 #include "plugin/scanner.h"
 #include "support/textLines.h"
 
@@ -16,14 +15,18 @@ struct Recorded
     QString minor;
 } recorded;
 
-LoadResult fakeOut(zkP::_dataPARS_LoadSceneFile*, LineSource& in, QString& line, bool& takeFound,
-    const int& major, const QString& minor)
+LoadResult fakeOut(Scene& scene, LineSource& in, QString& line)
 {
     ++recorded.calls;
-    recorded.major = major;
-    recorded.minor = minor;
-    takeFound = true;
-    while (in.next(line) && !line.startsWith(u'}')) { }
+    recorded.major = scene.houdiniMajor;
+    recorded.minor = scene.houdiniMinorForReaders;
+    scene.takeFound = true;
+    QByteArrayView raw;
+    while (in.nextRaw(raw)) {
+        line = LineSource::decode(raw);
+        if (line.startsWith(u'}'))
+            break;
+    }
     return static_cast<LoadResult>(recorded.result);
 }
 
@@ -34,21 +37,22 @@ TEST(Scanner, ADriverReaderFailureEndsTheScan)
     for (const int result : { 7, 1 }) {
         recorded = Recorded();
         recorded.result = result;
-        resetParserState();
         SectionReaders readers;
-        readers.outNode = fakeOut;
+        readers[SectionKind::OutNode] = fakeOut;
+        zkJ::_JobBasicsArray jobs;
+        zkP::_dataPARS_LoadSceneFile record { nullptr, &jobs, nullptr };
         LoadContext ctx;
-        ctx.buildVersionSwitch = ctx.compressedExportSwitch = true;
+        ctx.data = &record;
+        ctx.buildVersionSwitch = true;
+        Scene scene(ctx);
         zkTest::TextLines lines(
             "set -g _HIP_SAVEVERSION = '19.5.303'\nout/a.parm {\n}\nout/b.parm {\n}\n");
-        const ScanResult scan = scanScene(ctx, lines.source, readers);
-        EXPECT_EQ(scan.result, result);
+        EXPECT_EQ(scanScene(scene, lines.source, readers), result);
         EXPECT_EQ(recorded.calls, result == 1 ? 2 : 1);
-        // The driver reader gets the readers' version and may set the take
-        // flag; the switches reach the completion pass through the result.
+        // The driver reader sees the readers' version and may set the take flag.
         EXPECT_EQ(recorded.major, 19);
         EXPECT_EQ(recorded.minor, QStringLiteral("5"));
-        EXPECT_TRUE(scan.takeFound && scan.buildVersionSwitch && scan.compressedExportSwitch);
+        EXPECT_TRUE(scene.takeFound);
     }
 }
 
@@ -57,11 +61,15 @@ TEST(Scanner, DatabaseDirKeepsItsSlash)
     const char* rows[][2] = { { "/proj/shot/scene.hip", "/proj/shot/" },
         { "scene.hip", "scene.hip" }, { "/scene.hip", "/" } };
     for (const auto& row : rows) {
+        zkJ::_JobBasicsArray jobs;
+        zkP::_dataPARS_LoadSceneFile record { nullptr, &jobs, nullptr };
         LoadContext ctx;
+        ctx.data = &record;
         ctx.scenePath = QString::fromUtf8(row[0]);
+        Scene scene(ctx);
         zkTest::TextLines lines("");
-        scanScene(ctx, lines.source);
-        EXPECT_EQ(DatabaseDir, QString::fromUtf8(row[1])) << row[0];
+        scanScene(scene, lines.source);
+        EXPECT_EQ(scene.databaseDir, QString::fromUtf8(row[1])) << row[0];
     }
 }
 

@@ -8,8 +8,8 @@
 
 namespace zkTest {
 
-/// The scan's result and the parser state (variables, frame range, every
-/// element list) and the image path of each job in \p jobs.
-QString describeScan(const ScanResult& scan, zkJ::_JobBasicsArray& jobs);
+/// The scan's result, what the scene holds (variables, frame range, every
+/// element list) and the image path of each of its jobs.
+QString describeScan(LoadResult result, const Scene& scan);
 
 } // namespace zkTest

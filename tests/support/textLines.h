@@ -2,8 +2,7 @@
 //
 //     zkTest::TextLines lines("picture\t[ 0 ]\t(\t\"a.exr\"\t)\n}\n");
 //     QString header = QStringLiteral("out/mantra1.parm {");
-//     loadOutNode(&data, lines.source, header, ...);
-//     EXPECT_TRUE(lines.source.atEnd());
+//     readDriverSection(scene, lines.source, header);
 #pragma once
 
 #include "plugin/lineSource.h"

@@ -13,7 +13,7 @@ TEST(HoudiniVariables, AVariableWithoutANameIsSkipped)
     auto job = std::make_unique<zkJ::_JobBasics_largePath>();
     job->initialize();
     job->layer.set(QStringLiteral("/out/mantra1"));
-    QList<_namevalue> variables { { QString(), QStringLiteral("oops") } };
+    QList<SceneVariable> variables { { QString(), QStringLiteral("oops") } };
     EXPECT_EQ(replaceHoudiniVariables(
                   QStringLiteral("$OS.$F4"), job.get(), variables, _zkString<500>("/s/a.hip")),
         QStringLiteral("mantra1.$F4"));

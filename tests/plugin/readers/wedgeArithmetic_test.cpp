@@ -1,7 +1,7 @@
 // The readers' effects show in the jobs of the scene cases (reader_*); the
 // wedge arithmetic is pinned here where a scene cannot reach it: products past
 // the int range and negative step counts.
-#include "plugin/readers/wedgeList.h"
+#include "plugin/elements/wedgeList.h"
 
 #include <gtest/gtest.h>
 
@@ -11,12 +11,12 @@
 namespace {
 
 /// Parameters named a, b, c, ..., the k-th ranging from k to k + 1.
-_wedgeNode wedgeOf(std::initializer_list<int> steps)
+WedgeNode wedgeOf(std::initializer_list<int> steps)
 {
-    _wedgeNode wedge;
+    WedgeNode wedge;
     for (int s : steps) {
         const int k = int(wedge.params.size());
-        wedge.params.append(_wedgeParams { QString(QChar(u'a' + k)), k + 0.0, k + 1.0, s });
+        wedge.params.append(WedgeParameter { QString(QChar(u'a' + k)), k + 0.0, k + 1.0, s });
     }
     return wedge;
 }
@@ -41,7 +41,7 @@ TEST(WedgeArithmetic, TotalIsTheProductOfStepsWithinInt)
     for (const auto& row : rows)
         EXPECT_EQ(wedgeOf(row.steps).totalWedges(), row.total) << row.steps.size();
     // The total is computed once.
-    _wedgeNode wedge = wedgeOf({ 3, 2 });
+    WedgeNode wedge = wedgeOf({ 3, 2 });
     EXPECT_EQ(wedge.totalWedges(), 6);
     wedge.params.append(wedge.params.first());
     EXPECT_EQ(wedge.totalWedges(), 6);
@@ -50,7 +50,7 @@ TEST(WedgeArithmetic, TotalIsTheProductOfStepsWithinInt)
 TEST(WedgeArithmetic, NegativeStepsSplitTheIndexAsCppDivides)
 {
     // 5 % -2 == 1 and 5 / -2 == -2; then -2 % -3 == -2: 1 + -2 * 1 / (-3 - 1) = 1.5.
-    EXPECT_EQ(wedgeOf({ -2, -3 }).getWedgeFileName(5), QStringLiteral("_a_-0.333333_b_1.500000"));
+    EXPECT_EQ(wedgeOf({ -2, -3 }).fileName(5), QStringLiteral("_a_-0.333333_b_1.500000"));
 }
 
 } // namespace

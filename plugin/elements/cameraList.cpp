@@ -19,7 +19,7 @@ bool isExcludedCamera(const _zkString8_allSize<150>& name)
 
 } // namespace
 
-int _camList::findCamIndex(_zkString8_allSize<150> const& name)
+int CameraList::findByName(_zkString8_allSize<150> const& name)
 {
     const QString key = name.toQString();
     const int found
@@ -27,39 +27,35 @@ int _camList::findCamIndex(_zkString8_allSize<150> const& name)
     if (found >= 0)
         return found;
     // Unnamed (and so not in the index) until the caller names it.
-    list.append(_camNode());
+    list.append(CameraNode());
     return int(list.size()) - 1;
 }
 
-int _camList::findCamIndexByRenderNode(QString const& driverPath) const
+int CameraList::findByDriver(QString const& driverPath) const
 {
     return elementSection::findByRenderNode(list, byDriver, driverPath);
 }
 
-void _camList::addCamFromOutNode(_zkString8_allSize<150> camera, QString const& driverPath)
+void CameraList::addDriver(const _zkString8_allSize<150>& camera, QString const& driverPath)
 {
-    if (camera.startsWith("`chsop(\\")) {
-        camera.remove(0, 9);
-        camera.setLength(short(camera.length - 1));
-    }
-    const int index = findCamIndex(camera);
+    const int index = findByName(camera);
     name(index, camera);
     elementSection::addRenderNode(list, byDriver, index, driverPath);
 }
 
-void _camList::name(int index, const _zkString8_allSize<150>& name)
+void CameraList::name(int index, const _zkString8_allSize<150>& name)
 {
     list[index].name = name;
     byName.note(name.toQString(), index);
 }
 
-void _camList::addCam(_camNode& cam)
+void CameraList::add(CameraNode& cam)
 {
     if (isExcludedCamera(cam.name))
         return;
-    const int index = findCamIndex(cam.name);
+    const int index = findByName(cam.name);
     name(index, cam.name);
-    _camNode& entry = list[index];
+    CameraNode& entry = list[index];
     entry.resX = cam.resX;
     entry.resY = cam.resY;
     entry.isStereo = cam.isStereo;

@@ -2,14 +2,14 @@
 
 #include <climits>
 
-double _wedgeParams::valueIdx(int const& i) const
+double WedgeParameter::valueAt(int const& i) const
 {
     // One step divides by zero on purpose: the value is then not a number
     // and shows as "nan" in the file-name fragment.
     return rangeStart + (rangeEnd - rangeStart) / (double(steps) - 1.0) * i;
 }
 
-int _wedgeNode::totalWedges()
+int WedgeNode::totalWedges()
 {
     if (total >= 0)
         return total;
@@ -18,7 +18,7 @@ int _wedgeNode::totalWedges()
         return total;
     }
     long long product = 1;
-    for (const _wedgeParams& p : params) {
+    for (const WedgeParameter& p : params) {
         product *= p.steps;
         // Once out of the 32-bit range no later factor can bring it back
         // (except 0, which gives 0 as well), so stop before 64 bits overflow.
@@ -31,11 +31,11 @@ int _wedgeNode::totalWedges()
     return total;
 }
 
-QString _wedgeNode::getWedgeFileName(int index)
+QString WedgeNode::fileName(int index)
 {
     QString name = prefix;
     long long rest = index;
-    for (const _wedgeParams& p : params) {
+    for (const WedgeParameter& p : params) {
         long long step = 0;
         // A parameter without steps cannot have been listed; it stays at step 0
         // rather than dividing by zero.
@@ -43,7 +43,7 @@ QString _wedgeNode::getWedgeFileName(int index)
             step = rest % p.steps;
             rest /= p.steps;
         }
-        name += QStringLiteral("_%1_%2").arg(p.name).arg(p.valueIdx(int(step)), 0, 'f', 6);
+        name += QStringLiteral("_%1_%2").arg(p.name).arg(p.valueAt(int(step)), 0, 'f', 6);
     }
     return name;
 }

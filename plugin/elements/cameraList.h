@@ -2,14 +2,14 @@
 // and the output drivers that render through each camera.
 #pragma once
 
-#include "plugin/readers/elementSection.h"
+#include "plugin/elements/elementSection.h"
 #include "shared/zkString.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
 
-struct _camNode
+struct CameraNode
 {
     _zkString8_allSize<150> name;
     int resX = 0;
@@ -18,16 +18,16 @@ struct _camNode
     QStringList renderNodes;
 };
 
-class _camList
+class CameraList
 {
 public:
-    int findCamIndex(_zkString8_allSize<150> const& name);
-    int findCamIndexByRenderNode(QString const& driverPath) const;
-    void addCamFromOutNode(_zkString8_allSize<150> camera, QString const& driverPath);
-    void addCam(_camNode& cam);
+    int findByName(_zkString8_allSize<150> const& name);
+    int findByDriver(QString const& driverPath) const;
+    void addDriver(const _zkString8_allSize<150>& camera, QString const& driverPath);
+    void add(CameraNode& cam);
 
     /// Add through the members above: they keep the lookups' indexes.
-    QList<_camNode> list;
+    QList<CameraNode> list;
 
 private:
     void name(int index, const _zkString8_allSize<150>& name);

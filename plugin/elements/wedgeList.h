@@ -4,25 +4,25 @@
 #include <QList>
 #include <QString>
 
-struct _wedgeParams
+struct WedgeParameter
 {
     QString name;
     double rangeStart = 0.0;
     double rangeEnd = 0.0;
     int steps = 0;
 
-    double valueIdx(int const& i) const;
+    double valueAt(int const& i) const;
 };
 
-struct _wedgeNode
+struct WedgeNode
 {
     QString prefix;
     QString nodePath;
     QString driver;
     QString wedgeMethod;
-    QList<_wedgeParams> params;
+    QList<WedgeParameter> params;
     int total = -1;
 
     int totalWedges();
-    QString getWedgeFileName(int index);
+    QString fileName(int index);
 };

@@ -1,13 +1,13 @@
 // LOP nodes of one scene: image output and renderer, and the drivers that render them.
 #pragma once
 
-#include "plugin/readers/elementSection.h"
+#include "plugin/elements/elementSection.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
 
-struct _LOPNode
+struct LopNode
 {
     QString nodePath;
     QString imageOut;
@@ -16,20 +16,20 @@ struct _LOPNode
     QStringList renderNodes;
 
     void setRenderer(QString const& hint);
-    QString rendererName_render() const;
-    QString rendererName_create() const;
+    QString renderName() const;
+    QString exportName() const;
 };
 
-class _LOPList
+class LopList
 {
 public:
-    int findLOPIndex(QString const& nodePath, bool const& create);
-    int findLOPIndexByRenderNode(QString const& driverPath) const;
-    int addLOPFromOutNode(QString lopPath, QString const& driverPath);
-    void addLOP(_LOPNode& node);
+    int findByPath(QString const& nodePath, bool const& create);
+    int findByDriver(QString const& driverPath) const;
+    int addDriver(QString lopPath, QString const& driverPath);
+    void add(LopNode& node);
 
     /// Add through the members above: they keep the lookups' indexes.
-    QList<_LOPNode> list;
+    QList<LopNode> list;
 
 private:
     elementSection::FirstIndex byPath;

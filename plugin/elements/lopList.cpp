@@ -21,7 +21,7 @@ const RendererKeyword RendererKeywords[] = {
 
 } // namespace
 
-void _LOPNode::setRenderer(QString const& hint)
+void LopNode::setRenderer(QString const& hint)
 {
     const QString& text = hint.isEmpty() ? nodePath : hint;
     for (const RendererKeyword& row : RendererKeywords) {
@@ -32,40 +32,40 @@ void _LOPNode::setRenderer(QString const& hint)
     }
 }
 
-QString _LOPNode::rendererName_render() const
+QString LopNode::renderName() const
 {
     if (renderer.isEmpty())
         return QStringLiteral("usd");
     return QStringLiteral("usd_") + renderer;
 }
 
-QString _LOPNode::rendererName_create() const
+QString LopNode::exportName() const
 {
     if (renderer.isEmpty())
         return QStringLiteral("createUSD");
     return QStringLiteral("createUSD_") + renderer;
 }
 
-int _LOPList::findLOPIndex(QString const& nodePath, bool const& create)
+int LopList::findByPath(QString const& nodePath, bool const& create)
 {
     return elementSection::findByNodePath(list, byPath, nodePath, create);
 }
 
-int _LOPList::findLOPIndexByRenderNode(QString const& driverPath) const
+int LopList::findByDriver(QString const& driverPath) const
 {
     return elementSection::findByRenderNode(list, byDriver, driverPath);
 }
 
-int _LOPList::addLOPFromOutNode(QString lopPath, QString const& driverPath)
+int LopList::addDriver(QString lopPath, QString const& driverPath)
 {
-    const int index = findLOPIndex(elementSection::unwrapChsop(lopPath), true);
+    const int index = findByPath(elementSection::unwrapChsop(lopPath), true);
     elementSection::addRenderNode(list, byDriver, index, driverPath);
     return index;
 }
 
-void _LOPList::addLOP(_LOPNode& node)
+void LopList::add(LopNode& node)
 {
-    _LOPNode& entry = list[findLOPIndex(node.nodePath, true)];
+    LopNode& entry = list[findByPath(node.nodePath, true)];
     entry.nodePath = node.nodePath;
     entry.imageOut = node.imageOut;
     entry.imageUsesTake = node.imageUsesTake;
