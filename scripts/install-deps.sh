@@ -4,7 +4,7 @@
 set -euo pipefail
 
 packages=(cmake make g++ pkg-config qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev
-          clang-format binutils clang libclang-rt-14-dev)
+          clang-format binutils clang libclang-rt-14-dev graphviz)
 
 missing=()
 for p in "${packages[@]}"; do
