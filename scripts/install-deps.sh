@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(cmake make g++ pkg-config qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev
           clang-format binutils clang libclang-rt-14-dev
-          python3 python3-jsonschema help2man)
+          python3 python3-jsonschema help2man graphviz)
 
 missing=()
 for p in "${packages[@]}"; do

@@ -1,0 +1,245 @@
+#include "plugin/nodeTypes.h"
+
+#include <array>
+
+namespace {
+
+constexpr qsizetype CpioDigits = 70;
+constexpr qsizetype HouDigits = 28;
+
+bool allOf(QStringView text, bool (*accept)(char16_t))
+{
+    for (const QChar c : text)
+        if (!accept(c.unicode()))
+            return false;
+    return true;
+}
+
+bool isOctal(char16_t c)
+{
+    return c >= u'0' && c <= u'7';
+}
+
+bool isHex(char16_t c)
+{
+    return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
+}
+
+bool isVersionText(QStringView text)
+{
+    return !text.isEmpty()
+        && allOf(text, [](char16_t c) { return (c >= u'0' && c <= u'9') || c == u'.'; });
+}
+
+struct Suffix
+{
+    QStringView text;
+    NodeMember member;
+};
+
+constexpr std::array<Suffix, 4> MemberSuffixes { {
+    { u".init", NodeMember::Init },
+    { u".def", NodeMember::Def },
+    { u".chn", NodeMember::Chn },
+    { u".parm", NodeMember::Parm },
+} };
+
+std::optional<NodeMember> memberOfName(QStringView name, QStringView& path)
+{
+    for (const Suffix& s : MemberSuffixes) {
+        if (name.size() > s.text.size() && name.endsWith(s.text)) {
+            path = name.chopped(s.text.size());
+            return s.member;
+        }
+    }
+    return std::nullopt;
+}
+
+/// Where the member name of a header starting at \p magic begins, or -1 when
+/// the digits after the magic are not a header's.
+qsizetype nameStart(QStringView line, qsizetype magic)
+{
+    if (line.mid(magic).startsWith(u"070707")) {
+        const QStringView digits = line.mid(magic + 6, CpioDigits);
+        return digits.size() == CpioDigits && allOf(digits, isOctal) ? magic + 6 + CpioDigits : -1;
+    }
+    const QStringView digits = line.mid(magic + 6, HouDigits);
+    return digits.size() == HouDigits && allOf(digits, isHex) ? magic + 6 + HouDigits : -1;
+}
+
+/// The last archive magic that starts before \p end.
+qsizetype lastMagicBefore(QStringView line, qsizetype end)
+{
+    qsizetype best = -1;
+    for (QStringView magic :
+        { QStringView(u"070707"), QStringView(u"HouNC\x1a"), QStringView(u"HouLC\x1a") }) {
+        const qsizetype at = line.left(end).lastIndexOf(magic);
+        if (at > best)
+            best = at;
+    }
+    return best;
+}
+
+// Types that write a file or a picture wherever they sit.
+constexpr std::array<QStringView, 17> DriverTypes { {
+    u"ifd",
+    u"arnold",
+    u"Redshift_ROP",
+    u"opengl",
+    u"karma",
+    u"rop_geometry",
+    u"rop_alembic",
+    u"rop_comp",
+    u"rop_fbx",
+    u"rop_dop",
+    u"rop_image",
+    u"filecache",
+    u"usd_rop",
+    u"usdrender_rop",
+    u"vray_renderer",
+    u"ris",
+    u"baketexture",
+} };
+
+// The ROP-network spellings of the SOP/LOP-level drivers above.
+constexpr std::array<QStringView, 7> RopNetworkDriverTypes { {
+    u"geometry",
+    u"alembic",
+    u"comp",
+    u"usd",
+    u"usdrender",
+    u"dop",
+    u"fbx",
+} };
+
+// Nodes of a ROP network that route or group drivers but write nothing.
+constexpr std::array<QStringView, 9> PassThroughTypes { {
+    u"merge",
+    u"null",
+    u"switch",
+    u"fetch",
+    u"batch",
+    u"subnet",
+    u"ropnet",
+    u"shell",
+    u"Redshift_IPR",
+} };
+
+template <std::size_t N>
+bool listed(const std::array<QStringView, N>& list, QStringView type)
+{
+    for (QStringView t : list)
+        if (t == type)
+            return true;
+    return false;
+}
+
+} // namespace
+
+std::optional<MemberHeader> archiveMemberHeader(QStringView line)
+{
+    // The name ends at the NUL of the last header; searching back from there
+    // skips NULs inside a binary member that shares the line.
+    qsizetype nul = line.lastIndexOf(QChar(u'\0'));
+    while (nul > 0) {
+        const qsizetype magic = lastMagicBefore(line, nul);
+        if (magic < 0)
+            return std::nullopt;
+        const qsizetype start = nameStart(line, magic);
+        if (start >= 0 && start < nul) {
+            const QStringView name = line.mid(start, nul - start);
+            MemberHeader header;
+            if (!name.contains(QChar(u'\0'))) {
+                if (const auto member = memberOfName(name, header.path)) {
+                    header.member = *member;
+                    header.rest = line.mid(nul + 1);
+                    return header;
+                }
+            }
+        }
+        nul = line.left(magic).lastIndexOf(QChar(u'\0'));
+    }
+    return std::nullopt;
+}
+
+std::optional<MemberHeader> mimeMemberHeader(QStringView line)
+{
+    static constexpr QStringView Lead = u"Content-Disposition: attachment; filename=\"";
+    if (!line.startsWith(Lead))
+        return std::nullopt;
+    const QStringView quoted = line.mid(Lead.size());
+    const qsizetype close = quoted.indexOf(u'"');
+    if (close < 0 || !quoted.mid(close + 1).trimmed().isEmpty())
+        return std::nullopt;
+    MemberHeader header;
+    const auto member = memberOfName(quoted.left(close), header.path);
+    if (!member)
+        return std::nullopt;
+    header.member = *member;
+    return header;
+}
+
+QStringView initTypeValue(QStringView line)
+{
+    static constexpr QStringView Lead = u"type = ";
+    if (!line.startsWith(Lead))
+        return QStringView();
+    const QStringView type = line.mid(Lead.size()).trimmed();
+    return type.isEmpty() ? QStringView() : type;
+}
+
+QStringView baseTypeName(QStringView declared)
+{
+    QStringView type = declared;
+    const qsizetype lastSep = type.lastIndexOf(u"::");
+    if (lastSep >= 0 && isVersionText(type.mid(lastSep + 2)))
+        type = type.left(lastSep);
+    const qsizetype nsSep = type.lastIndexOf(u"::");
+    return nsSep >= 0 ? type.mid(nsSep + 2) : type;
+}
+
+bool readFlagsLine(QStringView line, bool& bypass)
+{
+    if (!line.startsWith(u"flags ="))
+        return false;
+    bypass = line.contains(u" bypass on");
+    return true;
+}
+
+NodeReader readerForType(QStringView type, bool inRopNetwork)
+{
+    if (listed(DriverTypes, type))
+        return NodeReader::OutputDriver;
+    if (type == u"cam" || type == u"stereocamrig")
+        return NodeReader::Camera;
+    if (type == u"karmarenderproperties" || type == u"rendersettings")
+        return NodeReader::UsdRenderSettings;
+    if (type == u"hdprman")
+        return NodeReader::Lop;
+    if (!inRopNetwork)
+        return NodeReader::None;
+    if (type == u"wedge")
+        return NodeReader::Wedge;
+    if (listed(RopNetworkDriverTypes, type))
+        return NodeReader::OutputDriver;
+    if (listed(PassThroughTypes, type))
+        return NodeReader::None;
+    // A studio's own ROP asset: read as a driver, as "/out" sections of
+    // undeclared scenes are.
+    return NodeReader::OutputDriver;
+}
+
+bool childOfRopNetwork(QStringView parentPath, QStringView parentType, bool parentInRopNetwork)
+{
+    if (parentPath == u"out")
+        return true;
+    if (parentType == u"ropnet")
+        return true;
+    return parentType == u"subnet" && parentInRopNetwork;
+}
+
+QStringView parentPath(QStringView memberPath)
+{
+    const qsizetype slash = memberPath.lastIndexOf(u'/');
+    return slash < 0 ? QStringView() : memberPath.left(slash);
+}
