@@ -22,6 +22,7 @@ NodeEntry* NodeTable::insert(QStringView path)
         return nullptr;
     }
     NodeEntry entry;
+    entry.inRopNetwork = inRopNetwork(path);
     entry.path = path.toString();
     pathUnits += path.size();
     index.insert(entry.path, size());
@@ -31,16 +32,12 @@ NodeEntry* NodeTable::insert(QStringView path)
 
 bool NodeTable::inRopNetwork(QStringView path) const
 {
-    // Walk up to the top, then decide downwards: a subnet counts only when
-    // it lies in a ROP network itself. Iterative, so a path of thousands of
-    // levels costs no stack.
-    std::vector<QStringView> ancestors;
-    for (QStringView p = parentPath(path); !p.isEmpty(); p = parentPath(p))
-        ancestors.push_back(p);
-    bool inside = false;
-    for (auto it = ancestors.rbegin(); it != ancestors.rend(); ++it) {
-        const NodeEntry* parent = find(*it);
-        inside = childOfRopNetwork(*it, parent ? QStringView(parent->type) : QStringView(), inside);
-    }
-    return inside;
+    if (const NodeEntry* entry = find(path))
+        return entry->inRopNetwork;
+    const QStringView parent = parentPath(path);
+    if (parent.isEmpty())
+        return false;
+    const NodeEntry* p = find(parent);
+    return childOfRopNetwork(
+        parent, p ? QStringView(p->type) : QStringView(), p && p->inRopNetwork);
 }

@@ -18,6 +18,8 @@ struct NodeEntry
     /// declared none for this node.
     QString type;
     bool bypass = false;
+    /// Its parent is a ROP network, by the types declared before it.
+    bool inRopNetwork = false;
     /// File offsets of the lines that start the node's members, -1 when the
     /// scene has none (yet).
     qint64 initOffset = -1;
@@ -46,7 +48,9 @@ public:
     NodeEntry* insert(QStringView path);
 
     /// Whether the node \p path lies in a ROP network: its parent is "/out",
-    /// a ropnet, or a subnet that lies in one, by the types declared so far.
+    /// a ropnet, or a subnet that lies in one. A scene declares a network
+    /// before its children, so each entry decides it once, from its parent's
+    /// entry, when it is added; a lookup is one hash of the path.
     bool inRopNetwork(QStringView path) const;
 
     qsizetype size() const { return qsizetype(entries.size()); }

@@ -6,6 +6,9 @@ namespace {
 
 constexpr qsizetype CpioDigits = 70;
 constexpr qsizetype HouDigits = 28;
+// A member name is a node path and a suffix; real ones are far shorter. A
+// longer run before a NUL is binary data that happens to follow a magic.
+constexpr qsizetype MaxMemberName = 4096;
 
 bool allOf(QStringView text, bool (*accept)(char16_t))
 {
@@ -67,19 +70,6 @@ qsizetype nameStart(QStringView line, qsizetype magic)
     return digits.size() == HouDigits && allOf(digits, isHex) ? magic + 6 + HouDigits : -1;
 }
 
-/// The last archive magic that starts before \p end.
-qsizetype lastMagicBefore(QStringView line, qsizetype end)
-{
-    qsizetype best = -1;
-    for (QStringView magic :
-        { QStringView(u"070707"), QStringView(u"HouNC\x1a"), QStringView(u"HouLC\x1a") }) {
-        const qsizetype at = line.left(end).lastIndexOf(magic);
-        if (at > best)
-            best = at;
-    }
-    return best;
-}
-
 // Types that write a file or a picture wherever they sit.
 constexpr std::array<QStringView, 17> DriverTypes { {
     u"ifd",
@@ -138,28 +128,40 @@ bool listed(const std::array<QStringView, N>& list, QStringView type)
 
 std::optional<MemberHeader> archiveMemberHeader(QStringView line)
 {
-    // The name ends at the NUL of the last header; searching back from there
-    // skips NULs inside a binary member that shares the line.
-    qsizetype nul = line.lastIndexOf(QChar(u'\0'));
-    while (nul > 0) {
-        const qsizetype magic = lastMagicBefore(line, nul);
-        if (magic < 0)
-            return std::nullopt;
+    // One pass over the candidates in line order, so that a hostile line of
+    // magics and NULs costs time linear in its length: the next NUL after a
+    // name's start only moves forward.
+    static constexpr QStringView Magics[] = { u"070707", u"HouNC\x1a", u"HouLC\x1a" };
+    qsizetype next[3];
+    for (int m = 0; m < 3; ++m)
+        next[m] = line.indexOf(Magics[m]);
+    qsizetype nul = -1;
+    std::optional<MemberHeader> last;
+    for (;;) {
+        int m = -1;
+        for (int k = 0; k < 3; ++k)
+            if (next[k] >= 0 && (m < 0 || next[k] < next[m]))
+                m = k;
+        if (m < 0)
+            return last;
+        const qsizetype magic = next[m];
+        next[m] = line.indexOf(Magics[m], magic + 1);
         const qsizetype start = nameStart(line, magic);
-        if (start >= 0 && start < nul) {
-            const QStringView name = line.mid(start, nul - start);
-            MemberHeader header;
-            if (!name.contains(QChar(u'\0'))) {
-                if (const auto member = memberOfName(name, header.path)) {
-                    header.member = *member;
-                    header.rest = line.mid(nul + 1);
-                    return header;
-                }
-            }
+        if (start < 0)
+            continue;
+        if (nul < start)
+            nul = line.indexOf(QChar(u'\0'), start);
+        if (nul < 0)
+            return last;
+        if (nul - start > MaxMemberName)
+            continue;
+        MemberHeader header;
+        if (const auto member = memberOfName(line.mid(start, nul - start), header.path)) {
+            header.member = *member;
+            header.rest = line.mid(nul + 1);
+            last = header;
         }
-        nul = line.left(magic).lastIndexOf(QChar(u'\0'));
     }
-    return std::nullopt;
 }
 
 std::optional<MemberHeader> mimeMemberHeader(QStringView line)

@@ -26,7 +26,7 @@ bool FileCacheParameters::take(QStringView name, const QString& value)
 
 bool fileCacheConstructed(const QString& filemethod)
 {
-    return filemethod.isNull() || filemethod == u"constructed" || filemethod == u"0";
+    return filemethod == u"constructed" || filemethod == u"0";
 }
 
 bool toggleOn(const QString& value, bool whenMissing)

@@ -26,7 +26,8 @@ struct FileCacheParameters
 };
 
 /// Whether a "filemethod" value selects the constructed path ("constructed"
-/// or 0); a missing line selects it too, as in the node's defaults.
+/// or 0). A scene without the line holds a File Cache older than the
+/// parameter, which writes its "file".
 bool fileCacheConstructed(const QString& filemethod);
 
 /// A toggle value: "on" or "1" (any case) is on, any other text off, a missing

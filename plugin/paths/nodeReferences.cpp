@@ -85,8 +85,16 @@ QString unwrapVariableBackticks(const QString& path)
             break;
         const QStringView inner = QStringView(path).mid(open + 1, close - open - 1);
         if (!inner.isEmpty() && variableReferenceLength(inner) == inner.size()) {
+            // The braced form keeps the name's end where the backtick was:
+            // "`$OS`_geo" must not read as a variable "$OS_geo".
             out += QStringView(path).mid(from, open - from);
-            out += inner;
+            if (inner[1] == u'{') {
+                out += inner;
+            } else {
+                out += QStringLiteral("${");
+                out += inner.mid(1);
+                out += u'}';
+            }
         } else {
             out += QStringView(path).mid(from, close + 1 - from);
         }

@@ -12,8 +12,9 @@
 QString expandNodeName(const QString& path, QStringView nodeName);
 
 /// \p path with every backtick pair that holds only one variable reference
-/// ("`$HIPNAME`", "`${OS}`") replaced by that reference, so that the variable
-/// expansion that follows gives its value.
+/// ("`$HIPNAME`", "`${OS}`") replaced by that reference in its braced form
+/// ("${HIPNAME}"), so that the variable expansion that follows gives its
+/// value and text after the backtick stays apart from the name.
 QString unwrapVariableBackticks(const QString& path);
 
 /// A backticked chs() reference found in a path value.

@@ -35,6 +35,8 @@ TEST(MemberHeader, ArchiveAndMimeForms)
         { HouNC + q("out/dop1.def") + Nul + q("comment"), "out/dop1|def|comment" },
         { q("HouLC\x1a") + HouNC.mid(6) + q("out/a b/c.chn") + Nul + q("{"), "out/a b/c|chn|{" },
         { binary + HouNC + q("out/d.parm") + Nul + q("{"), "out/d|parm|{" },
+        // A version "12.1.207" right before the header: "0707" twice, the last one starts it.
+        { q("12.1.207") + Cpio + q("out/t.init") + Nul, "out/t|init|" },
         { Cpio + q("obj/cam1.userdata") + Nul, "none" },
         { q("0707079") + Cpio.mid(7) + q("a.init") + Nul, "none" },
         { q("obj/cam1.init type = cam"), "none" }, { Cpio + q(".parm") + Nul + q("{"), "none" }

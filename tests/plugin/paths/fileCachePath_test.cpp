@@ -48,7 +48,7 @@ TEST(FileCachePath, Compose)
         EXPECT_EQ(got.isNull(), r.path == nullptr);
     }
 
-    EXPECT_TRUE(fileCacheConstructed(QString())); // the node's default
+    EXPECT_FALSE(fileCacheConstructed(QString())); // a File Cache older than the parameter
     EXPECT_TRUE(fileCacheConstructed(QStringLiteral("constructed"))
         && fileCacheConstructed(QStringLiteral("0")));
     for (const char* explicitPath : { "explicit", "1", "" })

@@ -19,7 +19,7 @@ TEST(NodeReferences, NodeNameAndBackticks)
         { "$$OS", "$cache1" } };
     for (const auto& r : names)
         EXPECT_EQ(expandNodeName(q(r[0]), u"cache1"), q(r[1])) << r[0];
-    const char* ticks[][2] = { { "$HIP/`$OS`/`$HIPNAME`.exr", "$HIP/$OS/$HIPNAME.exr" },
+    const char* ticks[][2] = { { "$HIP/`$OS`_v/`$HIPNAME`.exr", "$HIP/${OS}_v/${HIPNAME}.exr" },
         { "`${OS}`", "${OS}" }, { "`$F4+1`.exr", "`$F4+1`.exr" },
         { "`chs(\"x\")`", "`chs(\"x\")`" }, { "``/`$OS", "``/`$OS" }, { "`$`", "`$`" } };
     for (const auto& r : ticks)
