@@ -9,8 +9,10 @@
 #include "plugin/elements/usdRenderSettingsList.h"
 #include "plugin/elements/wedgeList.h"
 #include "plugin/loadContext.h"
+#include "plugin/nodeTable.h"
 #include "plugin/paths/houdiniVariables.h"
 #include "plugin/renderers.h"
+#include "plugin/wires.h"
 #include "shared/zkString.h"
 
 #include <QList>
@@ -31,6 +33,9 @@ struct JobNote
     int exportJob = -1;
     /// The renderer whose application renders the export's files.
     Renderer renderer = Renderer::Mantra;
+    /// The node that made the job, as the archive names it ("out/mantra1");
+    /// its wires decide what the job waits for.
+    QString driverNode;
 };
 
 struct Scene
@@ -70,6 +75,10 @@ struct Scene
     LopList lops;
     RenderSettingsList renderSettings;
     QList<WedgeNode> wedges;
+    /// Declared node types, bypass flags and member offsets.
+    NodeTable nodes;
+    /// The wires between nodes that can make or pass on a wait.
+    WireGraph wires;
 
     /// An image path named the active take: every driver renders per take.
     bool takeFound = false;
