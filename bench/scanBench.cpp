@@ -9,7 +9,10 @@
 //
 // Three hostile scenes of one line each (ZK_BENCH_LONG_LINE_MB, default 256)
 // show that peak memory does not follow the longest line: NUL bytes, a
-// section header and a "set -g" line.
+// section header and a "set -g" line. Flood scenes of many short sections or
+// global lines (takes, cameras, LOP and render-settings nodes; sized by item
+// count, or by ZK_BENCH_FLOOD_MB) show that neither memory nor the time per
+// line follows what a scene can make the lists hold.
 #include "bench/sceneGenerator.h"
 #include "plugin/lineSource.h"
 #include "plugin/zkPluginRecords.h"
@@ -133,6 +136,39 @@ bool writeLongLine(const QString& path, qint64 targetBytes, const QByteArray& he
     return out.write(tail) >= 0 && out.error() == QFile::NoError;
 }
 
+qint64 floodMegabytes()
+{
+    const QByteArray text = qgetenv("ZK_BENCH_FLOOD_MB");
+    bool ok = false;
+    const qint64 mb = text.toLongLong(&ok);
+    return ok && mb > 0 ? mb : 0;
+}
+
+/// Writes block(0), block(1), ... until \p count blocks, or \p targetBytes when
+/// that is above 0; the number of lines written goes to \p lines.
+bool writeFlood(const QString& path, qint64 count, qint64 targetBytes,
+    const std::function<QByteArray(qint64)>& block, qint64& lines)
+{
+    QFile out(path);
+    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return false;
+    QByteArray buffer;
+    lines = 0;
+    qint64 written = 0;
+    for (qint64 i = 0; targetBytes > 0 ? written < targetBytes : i < count; ++i) {
+        const QByteArray text = block(i);
+        buffer += text;
+        written += text.size();
+        lines += text.count('\n');
+        if (buffer.size() >= (1 << 20)) {
+            if (out.write(buffer) < 0)
+                return false;
+            buffer.clear();
+        }
+    }
+    return out.write(buffer) >= 0 && out.error() == QFile::NoError;
+}
+
 struct Scene
 {
     const char* name;
@@ -140,6 +176,7 @@ struct Scene
     qint64 bytes = 0;
     double wcSeconds = 0;
     bool hostile = false; ///< only the whole load is measured, once
+    qint64 lines = 0; ///< known for flood scenes: the time per line is reported
 };
 
 std::vector<Scene>& scenes()
@@ -255,6 +292,9 @@ void loadScene(benchmark::State& state, Scene& scene)
     // The job records are the host's: their size is given apart from the peak.
     const double records = double(jobs->allocated) * sizeof(zkJ::_JobBasics_largePath) / 1048576.0;
     state.counters["jobs"] = jobs->count;
+    if (scene.lines > 0)
+        state.counters["us_per_line"]
+            = state.counters["fastest_s"].value * 1e6 / double(scene.lines);
     state.counters["records_MB"] = records;
     state.counters["own_MB"] = state.counters["peak_MB"].value - records;
 }
@@ -380,6 +420,55 @@ int main(int argc, char** argv)
         };
         if (prepare(scene, write, longLineMegabytes()))
             scenes().push_back(scene);
+    }
+    const struct
+    {
+        const char* name;
+        qint64 count;
+        QByteArray (*block)(qint64);
+    } floods[] = {
+        { "take-flood", 4000000,
+            [](qint64 i) { return "take name take" + QByteArray::number(i) + " -flags 0\n"; } },
+        { "camera-flood", 1000000,
+            [](qint64 i) {
+                return "obj/cam" + QByteArray::number(i)
+                    + ".parm {\nres\t[ 0\tlocks=0 ]\t(\t1920\t1080\t)\n}\n";
+            } },
+        { "lop-flood", 1000000,
+            [](qint64 i) {
+                return "stage/hdprman" + QByteArray::number(i)
+                    + ".parm {\npicture\t[ 0\tlocks=0 ]\t(\t\"/r/a.$F4.exr\"\t)\n}\n";
+            } },
+        { "render-settings-flood", 1000000,
+            [](qint64 i) {
+                return "stage/rendersettings" + QByteArray::number(i)
+                    + ".parm {\nxn__redshiftglobalRS_archive_fileName\t[ 0\tlocks=0 ]\t(\t"
+                      "\"/r/a.rs\"\t)\n}\n";
+            } },
+    };
+    const qint64 floodMb = floodMegabytes();
+    for (const auto& f : floods) {
+        const QString size = floodMb > 0 ? QString::number(floodMb) + QStringLiteral("MB")
+                                         : QString::number(f.count);
+        Scene scene { f.name,
+            temp.filePath(
+                QStringLiteral("zkScanBench_%1_%2.hip").arg(QLatin1String(f.name), size)) };
+        scene.hostile = true;
+        qint64 lines = 0;
+        const auto write = [&](const QString& path, qint64) {
+            return writeFlood(path, f.count, floodMb << 20, f.block, lines);
+        };
+        if (prepare(scene, write)) {
+            // A kept scene from an earlier run: its lines are counted again.
+            if (lines == 0) {
+                QFile kept(scene.path);
+                kept.open(QIODevice::ReadOnly);
+                while (!kept.atEnd())
+                    lines += kept.read(1 << 20).count('\n');
+            }
+            scene.lines = lines;
+            scenes().push_back(scene);
+        }
     }
     registerBenchmarks(scenes());
     benchmark::RunSpecifiedBenchmarks();
