@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds the seed corpus of the fuzz targets in OUT: the example scenes, the
 # scene cases (those with submitter arguments also with a "#zkargs" line),
-# short slices of the real scenes in CORPUS when that folder exists, and a
-# few inputs for the path target.
+# short slices of the real scenes in CORPUS when that folder exists, a flood
+# of each list the scan fills, and a few inputs for the path target.
 #
 #   bash fuzz/make-seeds.sh OUT [CORPUS]
 set -euo pipefail
@@ -60,6 +60,34 @@ if [ -d "$corpus" ]; then
             END { emit() }' "$scene"
     done < <(find "$corpus" -type f \( -name '*.hip' -o -name '*.hipnc' -o -name '*.hiplc' \) -print0 | sort -z)
 fi
+
+# One flood per list the scan fills: many items, then the drivers that look
+# up the 16th and 17th item, on either side of the fuzz build's small list
+# limits (as its job record cap is small), so both sides of each cut are
+# reached from the first input on.
+parm() { printf '%s\t[ 0\tlocks=0 ]\t(\t%s\t)\n' "$1" "$2"; }
+driver() { # NAME [PARAMETER VALUE]
+    printf 'out/%s.parm {\n' "$1"
+    if [ $# -gt 1 ]; then parm "$2" "$3"; fi
+    parm vm_picture "\"/r/$1.\$F4.exr\""
+    printf '}\n'
+}
+flood() { # NAME COUNT AWK-FORMAT (the item number for every %d); the drivers on stdin
+    { LC_ALL=C awk -v n="$2" -v f="$3" 'BEGIN { for (i = 0; i < n; i++) printf f, i, i, i }'
+        cat; } > "$out/load/flood_$1.hip"
+}
+{ driver m1 take T15; driver m2 take t16; } | flood takes 100 'take name t%d kids 0\n'
+{ driver m1 camera /obj/cam15; driver m2 camera /obj/cam16; } \
+    | flood cameras 100 'obj/cam%d.parm {\nres\t[ 0\tlocks=0 ]\t(\t64\t32\t)\n}\n'
+for i in 15 16; do
+    printf 'out/u%s.parm {\n' "$i"
+    parm outputimage '"/r/own.$F4.exr"'
+    parm loppath "/stage/hdprman$i"
+    printf '}\n'
+done | flood lops 100 'stage/hdprman%d.parm {\npicture\t[ 0\tlocks=0 ]\t(\t"/r/lop%d.$F4.exr"\t)\n}\nstage/rendersettings%d.parm {\n}\n'
+{ driver m15; driver m16; } | flood wedges 100 'out/wedge%d.parm {\ndriver\t[ 0\tlocks=0 ]\t(\t/out/m%d\t)\nsteps1\t[ 0\tlocks=0 ]\t(\t2\t)\nwedgemethod\t[ 0\tlocks=0 ]\t(\tchannel\t)\n}\n'
+{ printf 'out/m1.parm {\n'; parm vm_picture '"/r/$A15Z/$A16Z/$A299Z.$F4.exr"'; printf '}\n'; } \
+    | flood variables 300 "set -g A%dZ = 'v%d'\n"
 
 # Path target: parameter line, scene path, then NAME<TAB>VALUE variables.
 printf 'vm_picture\t[ 0\tlocks=0 ]\t(\t"$HIP/render/$HIPNAME.$F4.exr"\t)\n/proj/shot/scene.hip\nJOB\t/proj\n' \
