@@ -8,6 +8,9 @@ set(ZK_FUZZ_MAX_JOB_RECORDS 16 CACHE STRING "Job record cap of the fuzz build")
 # Scenes are read in chunks of 256 KB; fuzz inputs are a few kilobytes, so
 # the fuzz build reads small chunks of an odd size to put lines across chunk ends.
 set(ZK_FUZZ_LINE_CHUNK_BYTES 509 CACHE STRING "Bytes per read of the fuzz build's line source")
+# The lists a scan fills are limited to thousands of items; fuzz inputs of a
+# few kilobytes reach a limit of 16.
+set(ZK_FUZZ_MAX_LIST_ITEMS 16 CACHE STRING "Limit of every scene list in the fuzz build")
 
 function(zk_target_defaults target)
     target_compile_features(${target} PUBLIC cxx_std_17)
@@ -30,6 +33,6 @@ function(zk_target_defaults target)
             -fno-sanitize-recover=all -fno-omit-frame-pointer -UQT_NO_DEBUG)
         target_link_options(${target} PRIVATE -fsanitize=address,undefined)
         target_compile_definitions(${target} PRIVATE ZK_MAX_JOB_RECORDS=${ZK_FUZZ_MAX_JOB_RECORDS}
-            ZK_LINE_CHUNK_BYTES=${ZK_FUZZ_LINE_CHUNK_BYTES})
+            ZK_LINE_CHUNK_BYTES=${ZK_FUZZ_LINE_CHUNK_BYTES} ZK_MAX_LIST_ITEMS=${ZK_FUZZ_MAX_LIST_ITEMS})
     endif()
 endfunction()

@@ -28,6 +28,10 @@ LoadResult loadLines(const LoadContext& ctx, QIODevice& device)
     zkJ::_JobBasicsArray& jobs = scene.jobs;
     if (jobs.count > jobs.allocated)
         jobs.count = jobs.allocated;
+    // Said last, so that no take or wedge copy repeats it.
+    const QString limits = scene.limitsReached();
+    if (!limits.isEmpty() && jobs.count > 0)
+        jobs.at(0)->customDataSet_Str(QStringLiteral("zkSceneLimitsReached"), limits);
     return result;
 }
 

@@ -12,12 +12,6 @@ namespace {
 
 constexpr int MaxEnvironmentValueLength = 200;
 
-/// Every expanded path walks the whole variable list; past this many entries
-/// further "set -g" lines are not kept, so a scene of millions of them does
-/// not make each path cost millions of steps. Real scenes set a few dozen
-/// (the 57 scenes of the test corpus at most 20).
-constexpr qsizetype MaxSceneVariables = 256;
-
 /// Renderer markers of a section header under obj/, img/ or stage/, in the
 /// order they are tried.
 const char* const RendererMarkers[] = {
@@ -250,7 +244,7 @@ void readSaveVersion(QStringView line, Scene& scene)
 
 void readGlobalVariable(QStringView line, qsizetype setAt, Scene& scene)
 {
-    if (scene.variables.size() >= MaxSceneVariables)
+    if (!scene.variablesBound.roomFor(scene.variables.size()))
         return;
     const qsizetype assign = line.indexOf(QStringView(u" = "));
     const qsizetype nameAt = setAt + 7;
@@ -268,7 +262,7 @@ void readTake(QStringView line, Scene& scene)
     if (blank >= 0)
         name = name.left(blank);
     name = name.trimmed();
-    if (!name.isEmpty())
+    if (!name.isEmpty() && scene.takesBound.roomFor(scene.takes.size()))
         scene.takes.append(name.toString());
 }
 

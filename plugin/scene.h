@@ -53,8 +53,10 @@ struct Scene
     /// The scene path as the host's record holds it, for path expansion.
     const _zkString<500> sceneFile;
 
-    /// "take name" entries in file order.
+    /// "take name" entries in file order; past the limit further takes are not
+    /// listed, so no job is copied for them.
     QStringList takes;
+    listLimits::Bound takesBound { listLimits::Takes };
     /// The saved Houdini version as written, such as "19.5.303".
     QString houdiniVersion;
     int houdiniMajor = 10;
@@ -68,13 +70,17 @@ struct Scene
     int frameEnd = 100;
     /// The scene's folder, with its trailing "/".
     QString databaseDir;
-    /// "set -g" variables and the "HIP" environment variables.
+    /// "set -g" variables and the "HIP" environment variables; past the limit
+    /// further "set -g" lines are not kept, and paths keep their names.
     QList<SceneVariable> variables;
+    listLimits::Bound variablesBound { listLimits::Variables };
 
     CameraList cameras;
     LopList lops;
     RenderSettingsList renderSettings;
+    /// Past the limit further wedge drivers are not kept: their drivers' jobs are not copied.
     QList<WedgeNode> wedges;
+    listLimits::Bound wedgesBound { listLimits::Wedges };
     /// Declared node types, bypass flags and member offsets.
     NodeTable nodes;
     /// The wires between nodes that can make or pass on a wait.
@@ -91,6 +97,13 @@ struct Scene
 
     /// One entry per job the readers made, at the job's index.
     std::vector<JobNote> notes;
+
+    /// The lists the scene made run into their limits, as the first job names them.
+    QString limitsReached() const
+    {
+        return listLimits::said({ &takesBound, &cameras.bound, &wedgesBound, &lops.bound,
+            &renderSettings.bound, &variablesBound });
+    }
 
     /// The note of job \p index, made when the readers left none.
     JobNote& noteOf(int index)

@@ -26,6 +26,8 @@ int CameraList::findByName(_zkString8_allSize<150> const& name)
         = byName.find(key, int(list.size()), [&](int i) { return list.at(i).name.isEqual(name); });
     if (found >= 0)
         return found;
+    if (!bound.roomFor(list.size()))
+        return -1;
     // Unnamed (and so not in the index) until the caller names it.
     list.append(CameraNode());
     return int(list.size()) - 1;
@@ -39,8 +41,10 @@ int CameraList::findByDriver(QString const& driverPath) const
 void CameraList::addDriver(const _zkString8_allSize<150>& camera, QString const& driverPath)
 {
     const int index = findByName(camera);
+    if (index < 0)
+        return;
     name(index, camera);
-    elementSection::addRenderNode(list, byDriver, index, driverPath);
+    elementSection::addRenderNode(list, byDriver, index, driverPath, bound);
 }
 
 void CameraList::name(int index, const _zkString8_allSize<150>& name)
@@ -54,6 +58,8 @@ void CameraList::add(CameraNode& cam)
     if (isExcludedCamera(cam.name))
         return;
     const int index = findByName(cam.name);
+    if (index < 0)
+        return;
     name(index, cam.name);
     CameraNode& entry = list[index];
     entry.resX = cam.resX;

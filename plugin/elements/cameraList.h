@@ -28,6 +28,8 @@ public:
 
     /// Add through the members above: they keep the lookups' indexes.
     QList<CameraNode> list;
+    /// Cameras past the limit are not registered, nor drivers past it linked.
+    listLimits::Bound bound { listLimits::Cameras };
 
 private:
     void name(int index, const _zkString8_allSize<150>& name);

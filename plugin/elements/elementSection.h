@@ -3,6 +3,7 @@
 // line, and the channel-expression prefix that drivers put around node paths.
 #pragma once
 
+#include "plugin/elements/listLimits.h"
 #include "plugin/textSearch.h"
 
 #include <QChar>
@@ -101,14 +102,15 @@ private:
 
 /// Index of the first node whose nodePath equals \p nodePath ignoring case;
 /// when there is none, a new node with that path is appended (its index
-/// returned) if \p create is set, else -1.
+/// returned) if \p create is set and \p bound leaves room, else -1.
 template <typename Node>
-int findByNodePath(QList<Node>& list, FirstIndex& byPath, const QString& nodePath, bool create)
+int findByNodePath(QList<Node>& list, FirstIndex& byPath, const QString& nodePath, bool create,
+    listLimits::Bound& bound)
 {
     const QString key = caseFoldedKey(nodePath);
     const int found = byPath.find(key, int(list.size()),
         [&](int i) { return list.at(i).nodePath.compare(nodePath, Qt::CaseInsensitive) == 0; });
-    if (found >= 0 || !create)
+    if (found >= 0 || !create || !bound.roomFor(list.size()))
         return found;
     Node node;
     node.nodePath = nodePath;
@@ -126,10 +128,14 @@ int findByRenderNode(const QList<Node>& list, const FirstIndex& byDriver, const 
         [&](int i) { return list.at(i).renderNodes.contains(driverPath, Qt::CaseSensitive); });
 }
 
-/// Appends \p driverPath to the render nodes of node \p index.
+/// Appends \p driverPath to the render nodes of node \p index, when there is
+/// such a node and \p bound leaves room for the link.
 template <typename Node>
-void addRenderNode(QList<Node>& list, FirstIndex& byDriver, int index, const QString& driverPath)
+void addRenderNode(QList<Node>& list, FirstIndex& byDriver, int index, const QString& driverPath,
+    listLimits::Bound& bound)
 {
+    if (index < 0 || !bound.roomForLink())
+        return;
     list[index].renderNodes.append(driverPath);
     byDriver.note(driverPath, index);
 }

@@ -48,7 +48,7 @@ QString LopNode::exportName() const
 
 int LopList::findByPath(QString const& nodePath, bool const& create)
 {
-    return elementSection::findByNodePath(list, byPath, nodePath, create);
+    return elementSection::findByNodePath(list, byPath, nodePath, create, bound);
 }
 
 int LopList::findByDriver(QString const& driverPath) const
@@ -59,13 +59,16 @@ int LopList::findByDriver(QString const& driverPath) const
 int LopList::addDriver(QString lopPath, QString const& driverPath)
 {
     const int index = findByPath(elementSection::unwrapChsop(lopPath), true);
-    elementSection::addRenderNode(list, byDriver, index, driverPath);
+    elementSection::addRenderNode(list, byDriver, index, driverPath, bound);
     return index;
 }
 
 void LopList::add(LopNode& node)
 {
-    LopNode& entry = list[findByPath(node.nodePath, true)];
+    const int index = findByPath(node.nodePath, true);
+    if (index < 0)
+        return;
+    LopNode& entry = list[index];
     entry.nodePath = node.nodePath;
     entry.imageOut = node.imageOut;
     entry.imageUsesTake = node.imageUsesTake;

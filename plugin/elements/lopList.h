@@ -30,6 +30,8 @@ public:
 
     /// Add through the members above: they keep the lookups' indexes.
     QList<LopNode> list;
+    /// LOP nodes past the limit are not kept, nor drivers past it linked.
+    listLimits::Bound bound { listLimits::Lops };
 
 private:
     elementSection::FirstIndex byPath;

@@ -24,6 +24,8 @@ public:
 
     /// Add through the members above: they keep the lookups' indexes.
     QList<RenderSettingsNode> list;
+    /// Render-settings nodes past the limit are not kept, nor drivers past it linked.
+    listLimits::Bound bound { listLimits::RenderSettings };
 
 private:
     elementSection::FirstIndex byPath;

@@ -176,9 +176,8 @@ Step lopLink(Driver& d, const QString& line)
     if (!v.contains("/hdprman"_L1))
         return Step::Next;
     const int index = d.scene.lops.addDriver(v, d.path);
-    const QString& imageOut = d.scene.lops.list.at(index).imageOut;
-    if (!imageOut.isEmpty())
-        d.imagePath = imageOut;
+    if (index >= 0 && !d.scene.lops.list.at(index).imageOut.isEmpty())
+        d.imagePath = d.scene.lops.list.at(index).imageOut;
     return Step::Next;
 }
 
@@ -198,7 +197,8 @@ Step lopRenderer(Driver& d, const QString& line)
 {
     const QString v = unquotedBracketValue(line);
     const int index = d.scene.lops.addDriver(v, d.path);
-    d.scene.lops.list[index].setRenderer(v);
+    if (index >= 0)
+        d.scene.lops.list[index].setRenderer(v);
     return Step::Next;
 }
 

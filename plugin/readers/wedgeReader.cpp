@@ -122,7 +122,8 @@ LoadResult readWedgeSection(Scene& scene, LineSource& in, QString& line)
               }
               return true;
           });
-    if (end == sectionLoop::SectionEnd::Closed && !invalid && isListed(wedge))
+    if (end == sectionLoop::SectionEnd::Closed && !invalid && isListed(wedge)
+        && scene.wedgesBound.roomFor(scene.wedges.size()))
         scene.wedges.append(wedge);
     return LoadOk;
 }
