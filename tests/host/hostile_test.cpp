@@ -116,17 +116,19 @@ const HostileClass Classes[] = {
     { "10,000 output-driver sections",
         [] { return repeated(10000, [](int i) { return driver("m" + number(i)); }); }, 1, 251, "",
         {} },
-    { "200,000 camera sections: the first 10,000 are registered",
+    { "200,000 cameras, then 20,000 drivers naming one: the first 10,000 of each are kept",
         [] {
             return repeated(200000, [](int i) {
                 return "obj/cam" + number(i) + ".parm {\n" + parm("res", "64\t32") + "}\n";
             }) + repeated(2, [](int i) {
                 return driver("m" + number(i), parm("camera", "/obj/cam" + number(9999 + i)));
-            });
+            }) + repeated(20000, [](int i) {
+                return "out/e" + number(i) + ".parm {\n" + parm("camera", "/obj/cam0") + "}\n";
+            }) + driver("m2", parm("camera", "/obj/cam0"));
         },
-        1, 2, "cameras=10000",
+        1, 3, "cameras=10000",
         { { 0, "camera", "/obj/cam9999" }, { 0, "imageWidth", "64" }, { 1, "camera", "" },
-            { 1, "imageWidth", "0" } } },
+            { 1, "imageWidth", "0" }, { 2, "camera", "" }, { 2, "imageWidth", "0" } } },
     { "100,000 LOP and 100,000 render-settings sections: the first 10,000 of each are kept",
         [] {
             return repeated(100000, [](int i) {
