@@ -37,11 +37,14 @@ constexpr Limit Limits[ListCount] = {
     // Every take past the first copies the jobs of each driver without a take
     // of its own: 4096 takes of one such driver already fill 930 MB of records.
     { "takes", lowered(4096) },
-    // Looked up once per driver; a camera costs its name and its drivers.
+    // Each camera keeps its name, size and drivers: a million camera
+    // sections held 400 MB.
     { "cameras", lowered(10000) },
     // Each wedge driver copies its driver's jobs once per variant: 1000
     // wedges of ten variants are past the job array's 10,000 records.
     { "wedges", lowered(1000) },
+    // Each node keeps its path, output and drivers: a million sections of
+    // either kind held over 400 MB.
     { "lops", lowered(10000) },
     { "rendersettings", lowered(10000) },
     // Every expanded path walks the whole variable list.
