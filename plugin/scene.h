@@ -101,8 +101,14 @@ struct Scene
     /// The lists the scene made run into their limits, as the first job names them.
     QString limitsReached() const
     {
-        return listLimits::said({ &takesBound, &cameras.bound, &wedgesBound, &lops.bound,
-            &renderSettings.bound, &variablesBound });
+        QStringList cut { listLimits::said({ &takesBound, &cameras.bound, &wedgesBound, &lops.bound,
+            &renderSettings.bound, &variablesBound }) };
+        if (nodes.overflowed())
+            cut.append(QStringLiteral("nodes=%1").arg(NodeTable::MaxNodes));
+        if (wires.overflowed())
+            cut.append(QStringLiteral("wires=%1").arg(WireGraph::MaxNodes));
+        cut.removeAll(QString());
+        return cut.join(u' ');
     }
 
     /// The note of job \p index, made when the readers left none.
