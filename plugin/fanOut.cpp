@@ -20,6 +20,8 @@ const QString WedgeNumBraced = QStringLiteral("${WEDGENUM}");
 const QString WedgeNum = QStringLiteral("$WEDGENUM");
 const QString WedgeBraced = QStringLiteral("${WEDGE}");
 const QString Wedge = QStringLiteral("$WEDGE");
+/// Where both braced tokens start.
+const QString WedgeBracedStart = QStringLiteral("${WEDGE");
 
 /// Applies \p edit to the paths that can carry wedge tokens: the image
 /// output, and the scene a render job reads (an export's path often holds
@@ -28,7 +30,8 @@ template <typename Edit>
 void editWedgePaths(zkJ::_JobBasics_largePath& job, Edit&& edit)
 {
     for (_zkString<1000>* field : { &job.imageDir, &job.imageFileName, &job.sceneName }) {
-        if (!field->view().contains(Wedge))
+        // A braced token can arrive through a scene variable ("render/${WEDGE}").
+        if (!field->view().contains(Wedge) && !field->view().contains(WedgeBracedStart))
             continue;
         QString text = field->toQString();
         edit(text);

@@ -344,9 +344,19 @@ void LineSource::Marks::addLead(const char* text, bool anyCase, const char* also
 
 void LineSource::Marks::addPair(const char* text, bool anyCase)
 {
+    const char first = anyCase ? zkAscii::lower(text[0]) : text[0];
+    for (int k = 0; k < keyCount; ++k) {
+        const Key& earlier = keys[size_t(k)];
+        if (!earlier.lead && earlier.anyCase == anyCase && earlier.text[0] == first) {
+            const unsigned shared = earlier.pairBit;
+            addKey(text, anyCase, false).pairBit = shared;
+            add(shared, text, anyCase);
+            return;
+        }
+    }
     if (pairs >= 2)
         return;
-    addKey(text, anyCase, false);
+    addKey(text, anyCase, false).pairBit = PairFirstBit[pairs];
     add(PairFirstBit[pairs], text, anyCase);
     ++pairs;
 }

@@ -62,8 +62,10 @@ public:
         /// and which, when \p alsoHolds is given, also holds those bytes
         /// (exactly) somewhere.
         void addLead(const char* text, bool anyCase, const char* alsoHolds = nullptr);
-        /// A line holding \p text (two bytes or more) anywhere; at most two
-        /// such texts.
+        /// A line holding \p text (two bytes or more) anywhere. Texts of at
+        /// most two different first bytes: one that starts like an earlier
+        /// pair shares its byte classes (".parm", ".init"), so only its
+        /// second byte widens the search.
         ///
         /// Keys that ignore case do so for ASCII letters and for the two
         /// non-ASCII characters that fold to one (U+017F to 's', U+212A to
@@ -109,11 +111,12 @@ public:
             bool anyCase = false;
             bool lead = false;
             const char* alsoHolds = nullptr;
+            unsigned pairBit = 0; ///< a pair's first-byte class
         };
         void add(unsigned firstBit, const char* text, bool anyCase);
         Key& addKey(const char* text, bool anyCase, bool lead);
 
-        std::array<Key, 8> keys {};
+        std::array<Key, 12> keys {};
         int keyCount = 0;
         int pairs = 0;
     };

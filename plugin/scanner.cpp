@@ -1,5 +1,7 @@
 #include "scanner.h"
 
+#include "plugin/frameChannels.h"
+#include "plugin/nodeTypes.h"
 #include "shared/zkAscii.h"
 #include "shared/zkShared.h"
 
@@ -206,8 +208,8 @@ void readFrameRange(QStringView line, Scene& scene)
     const qsizetype blank = rest.indexOf(u' ');
     if (blank < 0)
         return;
-    scene.frameStart = rest.left(blank).toInt();
-    scene.frameEnd = rest.mid(blank + 1).toInt();
+    scene.frameStart = roundedFrameNumber(rest.left(blank));
+    scene.frameEnd = roundedFrameNumber(rest.mid(blank + 1));
 }
 
 void readSaveVersion(QStringView line, Scene& scene)
@@ -296,6 +298,13 @@ struct ScanStep
     const SectionReaders& readers;
     QString& header;
     LoadResult result = LoadOk;
+    /// A line read while looking for a member's end that starts another
+    /// member: the scan takes it next.
+    QString pending;
+    /// The last ".chn" member read and the node it belongs to; it counts
+    /// for that node's section only.
+    QString channelsOf;
+    FrameChannelReader channels;
 };
 
 Then takeFrameRange(QStringView line, ScanStep& step)
@@ -347,6 +356,220 @@ Then takeSection(QStringView line, ScanStep& step)
     return step.result == LoadOk ? Then::LineDone : Then::StopScan;
 }
 
+/// Lines between a MIME part header and its body's "{": a "Content-Type"
+/// line and an empty line in real scenes.
+constexpr int MaxMimePreamble = 4;
+
+/// Whether \p line starts a member of the archive or a MIME part.
+bool startsMember(QStringView line)
+{
+    if (line.startsWith(u"--") || line.startsWith(u"Content-Disposition:"))
+        return true;
+    return line.contains(QChar(0)) && archiveMemberHeader(line).has_value();
+}
+
+/// Reads the body of a member the scan reads whole (".def", ".chn", a MIME
+/// ".init"): each line goes to \p onLine until it returns false. A line that
+/// starts another member ends the body too and is left for the scan, so a
+/// member without its usual last line hides no member after it.
+template <typename OnLine>
+void readMemberBody(ScanStep& step, OnLine&& onLine)
+{
+    QByteArrayView raw;
+    while (step.in.nextRaw(raw)) {
+        QString text = LineSource::decode(raw);
+        if (startsMember(text)) {
+            step.pending = std::move(text);
+            return;
+        }
+        if (!onLine(QStringView(text)))
+            return;
+    }
+}
+
+/// Moves past a MIME part's preamble to its "{" line; false when another
+/// line comes first (it is left for the scan).
+bool reachMimeBody(ScanStep& step)
+{
+    QByteArrayView raw;
+    for (int i = 0; i < MaxMimePreamble && step.in.nextRaw(raw); ++i) {
+        QString text = LineSource::decode(raw);
+        if (text == u"{")
+            return true;
+        if (text.isEmpty() || text.startsWith(u"Content-", Qt::CaseInsensitive))
+            continue;
+        step.pending = std::move(text);
+        return false;
+    }
+    return false;
+}
+
+void readInitMember(const MemberHeader& member, bool mime, ScanStep& step)
+{
+    const QString path = member.path.toString();
+    QString type;
+    if (!mime) {
+        type = initTypeValue(member.rest.trimmed()).toString();
+    } else {
+        readMemberBody(step, [&](QStringView line) {
+            const QStringView declared = initTypeValue(line);
+            if (declared.isNull())
+                return true;
+            type = declared.toString();
+            return false;
+        });
+    }
+    if (type.isEmpty())
+        return;
+    const QStringView base = baseTypeName(type);
+    if (NodeEntry* entry = step.scene.nodes.insert(path))
+        entry->type = base.toString();
+    step.scene.wires.setType(path, base);
+}
+
+void readDefMember(const MemberHeader& member, bool mime, ScanStep& step)
+{
+    const QString path = member.path.toString();
+    bool bypass = false;
+    WireNode wired;
+    DefMemberReader wires;
+    const auto feed = [&](QStringView line) {
+        if (line == u"end")
+            return false;
+        readFlagsLine(line, bypass);
+        wires.feed(line, wired);
+        return true;
+    };
+    // In the archive forms the body's first line shares the header's line.
+    if (mime || feed(member.rest.trimmed()))
+        readMemberBody(step, feed);
+    if (NodeEntry* entry = step.scene.nodes.find(path))
+        entry->bypass = bypass;
+    if (!wired.display && wired.inputs.isEmpty() && !step.scene.wires.find(path))
+        return;
+    if (WireNode* node = step.scene.wires.insert(path)) {
+        node->display = wired.display;
+        node->inputs = wired.inputs;
+    }
+}
+
+void readChnMember(const MemberHeader& member, bool mime, ScanStep& step)
+{
+    step.channelsOf = member.path.toString();
+    step.channels = FrameChannelReader();
+    int depth = 0;
+    bool opened = false;
+    const auto feed = [&](QStringView line) {
+        step.channels.readLine(line);
+        for (const QChar c : line) {
+            if (c == u'{') {
+                ++depth;
+                opened = true;
+            } else if (c == u'}') {
+                --depth;
+            }
+        }
+        return !(opened && depth <= 0);
+    };
+    if (mime || feed(member.rest.trimmed()))
+        readMemberBody(step, feed);
+}
+
+SectionKind kindOfReader(NodeReader reader)
+{
+    switch (reader) {
+    case NodeReader::OutputDriver:
+        return SectionKind::OutNode;
+    case NodeReader::Camera:
+        return SectionKind::Camera;
+    case NodeReader::Wedge:
+        return SectionKind::Wedge;
+    case NodeReader::UsdRenderSettings:
+        return SectionKind::UsdRenderSettings;
+    case NodeReader::Lop:
+        return SectionKind::Lop;
+    case NodeReader::None:
+        break;
+    }
+    return SectionKind::None;
+}
+
+/// A fetch's or switch's parameters redirect the wires; no reader reads them.
+void readWireParameters(WireNode& node, ScanStep& step)
+{
+    QByteArrayView raw;
+    while (step.in.nextRaw(raw)) {
+        QString text = LineSource::decode(raw);
+        if (text.startsWith(u'}'))
+            return;
+        if (startsMember(text)) {
+            step.pending = std::move(text);
+            return;
+        }
+        WireGraph::readParameterLine(node, text);
+    }
+}
+
+Then readParmMember(QStringView line, const MemberHeader& member, bool mime, ScanStep& step)
+{
+    const QString path = member.path.toString();
+    if (mime && !reachMimeBody(step))
+        return Then::LineDone;
+    Scene& scene = step.scene;
+    const NodeEntry* entry = scene.nodes.find(path);
+    if (!entry || entry->type.isEmpty()) {
+        // A node without a declared type: its name decides, as in hand-written scenes.
+        if (!mime)
+            return takeSection(line, step);
+        return takeSection(QString(path + QStringLiteral(".parm {")), step);
+    }
+    const SectionKind kind = kindOfReader(readerForType(entry->type, entry->inRopNetwork));
+    const SectionReader reader = step.readers[kind];
+    if (!reader) {
+        const WireNode* wired = scene.wires.find(path);
+        if (wired && (wired->type == u"fetch" || wired->type == u"switch"))
+            readWireParameters(*scene.wires.insert(path), step);
+        return Then::LineDone;
+    }
+    Scene::DeclaredSection& section = scene.section;
+    section.path = u'/' + path;
+    section.type = entry->type;
+    section.bypass = entry->bypass;
+    section.channels = step.channelsOf == path ? step.channels : FrameChannelReader();
+    step.header = path + QStringLiteral(".parm {");
+    step.result = reader(scene, step.in, step.header);
+    section = Scene::DeclaredSection();
+    return step.result == LoadOk ? Then::LineDone : Then::StopScan;
+}
+
+/// A member header of the archive forms (it holds a NUL) or of the MIME
+/// form; any other line may still be a hand-written section header.
+Then takeMember(QStringView line, ScanStep& step)
+{
+    std::optional<MemberHeader> member;
+    const bool mime = !line.contains(QChar(0));
+    if (!mime)
+        member = archiveMemberHeader(line);
+    else if (line.front() == u'C')
+        member = mimeMemberHeader(line);
+    if (!member)
+        return takeSection(line, step);
+    switch (member->member) {
+    case NodeMember::Init:
+        readInitMember(*member, mime, step);
+        return Then::LineDone;
+    case NodeMember::Def:
+        readDefMember(*member, mime, step);
+        return Then::LineDone;
+    case NodeMember::Chn:
+        readChnMember(*member, mime, step);
+        return Then::LineDone;
+    case NodeMember::Parm:
+        break;
+    }
+    return readParmMember(line, *member, mime, step);
+}
+
 /// Bytes a raw line must hold for a rule to take it: at the line's first
 /// visible byte, or anywhere (LineSource::Marks tells how case is ignored).
 struct ByteKey
@@ -377,7 +600,12 @@ const LineRule LineRules[] = {
     { { { "set -g ", ByteKey::Lead, true }, { "hou", ByteKey::Lead, true } }, " = ",
         takeGlobalVariable },
     { { { "take name", ByteKey::Lead, false } }, nullptr, takeTake },
-    { { { ".parm", ByteKey::Anywhere, false } }, nullptr, takeSection },
+    // A member header, or a hand-written section header; the second rule
+    // only adds the keys of the members the scan reads whole.
+    { { { ".parm", ByteKey::Anywhere, false }, { ".init", ByteKey::Anywhere, false } }, nullptr,
+        takeMember },
+    { { { ".def", ByteKey::Anywhere, false }, { ".chn", ByteKey::Anywhere, false } }, nullptr,
+        takeMember },
 };
 
 /// The keys of every rule, for the line source to look for.
@@ -448,10 +676,16 @@ LoadResult scanScene(Scene& scene, LineSource& in, const SectionReaders& readers
 
     static const LineSource::Marks marks = ruleMarks();
     QString header;
-    ScanStep step { scene, in, readers, header };
+    ScanStep step { scene, in, readers, header, LoadOk, {}, {}, {} };
     QByteArrayView raw;
-    while (mode == ScanMode::EveryLine ? in.nextRaw(raw) : in.nextMarked(raw, marks)) {
-        const QString text = LineSource::decode(raw);
+    for (;;) {
+        QString text;
+        if (!step.pending.isNull())
+            std::swap(text, step.pending);
+        else if (mode == ScanMode::EveryLine ? in.nextRaw(raw) : in.nextMarked(raw, marks))
+            text = LineSource::decode(raw);
+        else
+            break;
         if (text.isEmpty() || text.front() == u'#')
             continue;
         if (applyRules(text, step) == Then::StopScan)
