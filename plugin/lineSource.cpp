@@ -447,6 +447,7 @@ qsizetype LineSource::findNewline(qsizetype from)
 QByteArrayView LineSource::take(qsizetype end)
 {
     QByteArrayView line(buffer.constData() + pos, end - pos);
+    lineStart = offsetAt(pos);
     pos = end < size ? end + 1 : size;
     searched = pos;
     // Over-long lines read as empty; fill() keeps an unfinished one from growing past the limit.
@@ -528,9 +529,22 @@ void LineSource::dropConsumed()
         return;
     char* const data = buffer.data();
     std::memmove(data, data + pos, size_t(size - pos));
+    dropped(pos);
     size -= pos;
     searched -= pos;
     pos = 0;
+}
+
+void LineSource::dropped(qsizetype count)
+{
+    if (count >= chunkIndex) {
+        bufferOffset = chunkOffset + (count - chunkIndex);
+        chunkIndex = 0;
+        chunkOffset = bufferOffset;
+    } else {
+        bufferOffset += count;
+        chunkIndex -= count;
+    }
 }
 
 bool LineSource::readChunk()
@@ -539,8 +553,15 @@ bool LineSource::readChunk()
         buffer.resize(size + ChunkBytes + Padding);
     const qsizetype before = size;
     if (QIODevice* device = in.device()) {
+        const qint64 at = device->pos();
         const qint64 got = device->read(buffer.data() + size, ChunkBytes);
         size += got > 0 ? qsizetype(got) : 0;
+        if (got > 0) {
+            chunkIndex = before;
+            chunkOffset = at;
+            if (before == 0)
+                bufferOffset = at;
+        }
     } else if (const QString* text = in.string(); text && !started) {
         // A stream over a string: its text is in memory already.
         const QByteArray utf8 = text->toUtf8();
@@ -590,6 +611,7 @@ bool LineSource::fill()
         if (end >= 0) {
             char* const data = buffer.data();
             std::memmove(data, data + end, size_t(size - end));
+            dropped(end);
             size -= end;
             std::memset(data + size, 0, Padding);
             searched = 0;

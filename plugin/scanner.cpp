@@ -2,9 +2,14 @@
 
 #include "plugin/frameChannels.h"
 #include "plugin/nodeTypes.h"
+#include "plugin/parameterLine.h"
 #include "shared/zkAscii.h"
 #include "shared/zkShared.h"
 
+#include <QIODevice>
+#include <QTextStream>
+
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <string>
@@ -305,6 +310,8 @@ struct ScanStep
     /// for that node's section only.
     QString channelsOf;
     FrameChannelReader channels;
+    /// Bytes read again for channel references so far.
+    qint64 rereadBytes = 0;
 };
 
 Then takeFrameRange(QStringView line, ScanStep& step)
@@ -513,6 +520,8 @@ void readWireParameters(WireNode& node, ScanStep& step)
 Then readParmMember(QStringView line, const MemberHeader& member, bool mime, ScanStep& step)
 {
     const QString path = member.path.toString();
+    if (NodeEntry* node = step.scene.nodes.insert(path); node && node->parmOffset < 0)
+        node->parmOffset = step.in.lineOffset();
     if (mime && !reachMimeBody(step))
         return Then::LineDone;
     Scene& scene = step.scene;
@@ -540,6 +549,73 @@ Then readParmMember(QStringView line, const MemberHeader& member, bool mime, Sca
     step.result = reader(scene, step.in, step.header);
     section = Scene::DeclaredSection();
     return step.result == LoadOk ? Then::LineDone : Then::StopScan;
+}
+
+/// Reading a section again for a channel reference. A reference to a node
+/// before the driver starts at the node's remembered ".parm" offset, at most
+/// a chunk before its header; one to a node after it looks ahead from the
+/// driver's line, at most MaxLookAheadBytes. All references of a load read
+/// at most MaxRereadBytes again, so a scene of millions of references costs
+/// a bounded multiple of its size; past that, references stay unresolved.
+constexpr qint64 MaxLookAheadBytes = qint64(64) << 20;
+constexpr qint64 MaxRereadBytes = qint64(256) << 20;
+
+std::optional<MemberHeader> memberHeader(QStringView line)
+{
+    if (line.contains(QChar(0)))
+        return archiveMemberHeader(line);
+    if (line.startsWith(u'C'))
+        return mimeMemberHeader(line);
+    return std::nullopt;
+}
+
+/// The value of \p parameter in the ".parm" section of \p path, searched for
+/// from where \p in stands up to the offset \p stopAt; null when not found.
+QString parameterInSection(LineSource& in, QStringView path, QStringView parameter, qint64 stopAt)
+{
+    QByteArrayView raw;
+    bool inside = false;
+    while (in.nextRaw(raw) && in.lineOffset() <= stopAt) {
+        const QString text = LineSource::decode(raw);
+        if (!inside) {
+            const auto member = memberHeader(text);
+            inside = member && member->member == NodeMember::Parm && member->path == path;
+            continue;
+        }
+        if (text.startsWith(u'}') || startsMember(text))
+            return QString();
+        if (text.size() > parameter.size() && text.startsWith(parameter)
+            && text[parameter.size()].isSpace()) {
+            const QString value = parameterLine::outerBracketValue(text);
+            return value.isNull() ? QStringLiteral("") : value;
+        }
+    }
+    return QString();
+}
+
+QString referencedValue(ScanStep& step, QStringView nodePath, QStringView parameter)
+{
+    QIODevice* device = step.in.device();
+    if (!device || device->isSequential() || step.rereadBytes >= MaxRereadBytes)
+        return QString();
+    const QStringView path = nodePath.startsWith(u'/') ? nodePath.mid(1) : nodePath;
+    const NodeEntry* node = step.scene.nodes.find(path);
+    const bool earlier = node && node->parmOffset >= 0;
+    const qint64 from = earlier ? node->parmOffset : step.in.lineOffset();
+    if (from < 0)
+        return QString();
+    const qint64 budget = MaxRereadBytes - step.rereadBytes;
+    const qint64 stopAt = from + (earlier ? budget : std::min(budget, MaxLookAheadBytes));
+    const qint64 resume = device->pos();
+    QString value;
+    if (device->seek(from)) {
+        QTextStream stream(device);
+        LineSource again(stream);
+        value = parameterInSection(again, path, parameter, stopAt);
+        step.rereadBytes += std::max<qint64>(device->pos() - from, 1);
+    }
+    device->seek(resume);
+    return value;
 }
 
 /// A member header of the archive forms (it holds a NUL) or of the MIME
@@ -676,7 +752,10 @@ LoadResult scanScene(Scene& scene, LineSource& in, const SectionReaders& readers
 
     static const LineSource::Marks marks = ruleMarks();
     QString header;
-    ScanStep step { scene, in, readers, header, LoadOk, {}, {}, {} };
+    ScanStep step { scene, in, readers, header, LoadOk, {}, {}, {}, 0 };
+    scene.parameterValue = [&step](QStringView node, QStringView parameter) {
+        return referencedValue(step, node, parameter);
+    };
     QByteArrayView raw;
     for (;;) {
         QString text;
@@ -691,5 +770,6 @@ LoadResult scanScene(Scene& scene, LineSource& in, const SectionReaders& readers
         if (applyRules(text, step) == Then::StopScan)
             break;
     }
+    scene.parameterValue = nullptr;
     return step.result;
 }
