@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTextStream>
 
 #include <gtest/gtest.h>
@@ -36,8 +37,47 @@ QList<QMap<QString, QString>> corpusScenes()
     return scenes;
 }
 
+/// The member path of a job's driver: its layer without the leading "/".
+QString nodeOf(const zkJ::_JobBasics_largePath& job)
+{
+    return job.layer.toQString().mid(1);
+}
+
+// A job waits for its own export (first) and for the drivers upstream of its
+// own in the wires, each of them, and nothing else.
+void expectWiredWaits(const zkJ::_JobBasicsArray& jobs, int count, const WireGraph& wires)
+{
+    QSet<QString> made;
+    for (int i = 0; i < count; ++i)
+        made.insert(nodeOf(jobs.records[i]));
+    const auto madeJobs = [&](QStringView path) { return made.contains(path.toString()); };
+    for (int i = 0; i < count; ++i) {
+        const zkJ::_JobBasics_largePath& job = jobs.records[i];
+        const QString node = nodeOf(job);
+        const QStringList upstream = wires.upstreamDrivers(node, madeJobs);
+        QSet<QString> waitedFor;
+        for (int w = 0; w < job.waitForPreIDCount; ++w) {
+            int k = 0;
+            while (k < count && jobs.records[k].preID != job.waitForPreIDs[w])
+                ++k;
+            ASSERT_LT(k, count) << "job " << i << " waits for a job that is not there";
+            const zkJ::_JobBasics_largePath& other = jobs.records[k];
+            waitedFor.insert(nodeOf(other));
+            if (w == 0 && other.layer.isEqual(job.layer)) {
+                EXPECT_TRUE(other.renderApp.rendererName.view().startsWith(u"create")) << i;
+                continue;
+            }
+            EXPECT_TRUE(upstream.contains(nodeOf(other))) << "job " << i << " " << w;
+        }
+        if (job.waitForPreIDCount >= 29)
+            continue;
+        for (const QString& driver : upstream)
+            EXPECT_TRUE(waitedFor.contains(driver)) << qPrintable(node + u' ' + driver);
+    }
+}
+
 // Every real scene loads to jobs a farm can run: each names its application
-// and its output, a job that waits, waits for the export of its own driver,
+// and its output, waits only for its export and the drivers wired into it,
 // and Houdini's own jobs carry the version the manifest records. The rules
 // behind the scan (version, frame range, takes, cameras) are pinned by the
 // scene cases.
@@ -60,16 +100,8 @@ TEST(Corpus, EveryRealSceneGivesSaneJobs)
             if (version.contains(u'.') && job.renderApp.appName.view() == u"Houdini") {
                 EXPECT_EQ(job.renderApp.versionMajor, version.section(u'.', 0, 0).toInt());
             }
-            if (job.waitForPreIDCount == 0)
-                continue;
-            int waitedFor = 0;
-            while (waitedFor < jobs.count && jobs.records[waitedFor].preID != job.waitForPreIDs[0])
-                ++waitedFor;
-            ASSERT_LT(waitedFor, jobs.count) << "job " << i << " waits for a job that is not there";
-            EXPECT_TRUE(jobs.records[waitedFor].layer.isEqual(job.layer)) << "job " << i;
-            EXPECT_TRUE(jobs.records[waitedFor].renderApp.rendererName.view().startsWith(u"create"))
-                << "job " << i;
         }
+        const int loaded = jobs.count;
         // The scene's frame range and camera sizes as the manifest records them.
         QFile file(scene.value(QStringLiteral("path")));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -80,6 +112,7 @@ TEST(Corpus, EveryRealSceneGivesSaneJobs)
         ctx.scenePath = file.fileName();
         Scene scanned(ctx);
         scanScene(scanned, in);
+        expectWiredWaits(jobs, loaded, scanned.wires);
         static const QRegularExpression frange(QStringLiteral("frange (-?\\d+) (-?\\d+)"));
         const QRegularExpressionMatch range = frange.match(scene.value(QStringLiteral("notes")));
         if (range.hasMatch()) {
