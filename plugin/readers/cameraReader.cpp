@@ -1,5 +1,6 @@
 #include "plugin/elements/elementSection.h"
 #include "plugin/parameterLine.h"
+#include "plugin/paths/nodeReferences.h"
 #include "readerCommon.h"
 #include "sectionLoop.h"
 
@@ -9,31 +10,13 @@ namespace {
 
 const QLatin1String ResolutionKeyword("res\t");
 
-/// \p value with each channel reference "[ resx\t1280 ]" replaced by its
-/// number: a real camera whose size is keyed writes the cached value there.
-QString withoutChannelReferences(QString value)
-{
-    for (qsizetype open = value.indexOf(u'['); open >= 0; open = value.indexOf(u'[', open)) {
-        const qsizetype close = value.indexOf(u']', open);
-        if (close < 0)
-            break;
-        const QStringView inside = QStringView(value).mid(open + 1, close - open - 1).trimmed();
-        const qsizetype blank
-            = inside.lastIndexOf(u'\t') >= 0 ? inside.lastIndexOf(u'\t') : inside.lastIndexOf(u' ');
-        const QString number = blank < 0 ? QString() : inside.mid(blank + 1).toString();
-        value.replace(open, close - open + 1, number);
-        open += number.size();
-    }
-    return value;
-}
-
 /// "res\t[ 0\tlocks=0 ]\t(\t1920\t1080\t)": width before the first tab, height
 /// after it; a value without a tab gives both the same number.
 void readResolution(const QString& line, CameraNode& cam, bool declared)
 {
     QString value = parameterLine::unquotedBracketValue(line);
     if (declared)
-        value = withoutChannelReferences(value).simplified().replace(u' ', u'\t');
+        value = withCachedValues(value).simplified().replace(u' ', u'\t');
     const qsizetype tab = value.indexOf(u'\t');
     cam.resX = value.left(tab < 0 ? value.size() : tab).trimmed().toInt();
     cam.resY = value.mid(tab + 1).trimmed().toInt();

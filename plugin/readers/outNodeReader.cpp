@@ -132,7 +132,17 @@ void applyFrameChannels(Driver& d, const QString& value)
 Step frameNumbers(Driver& d, const QString& line)
 {
     QString v = bracketValue(line);
-    const QString written = v;
+    if (d.declared()) {
+        // Any of the three may be keyed, not only the start with the end.
+        const QStringList numbers = withCachedValues(v).simplified().split(u' ');
+        if (numbers.size() >= 2) {
+            d.frameStart = numbers[0].toInt();
+            d.frameEnd = numbers[1].toInt();
+            d.frameStep = numbers.size() > 2 ? numbers[2].toInt() : 1;
+        }
+        applyFrameChannels(d, v);
+        return Step::Next;
+    }
     if (v.contains("f1"_L1, Qt::CaseInsensitive)) {
         dropThrough(v, u"f1", Qt::CaseInsensitive);
         v = v.trimmed();
@@ -150,7 +160,6 @@ Step frameNumbers(Driver& d, const QString& line)
             dropThrough(v, u"\t");
         }
         d.frameStep = QStringView(v).trimmed().toInt();
-        applyFrameChannels(d, written);
         return Step::Next;
     }
     if (!v.contains(u'\t'))
@@ -206,8 +215,10 @@ Step camera(Driver& d, const QString& line)
     if (parameterLine::isChannelExpression(v))
         return Step::Next;
     d.proxyCamera = v.startsWith("proxy_export"_L1, Qt::CaseInsensitive);
+    // Houdini reads "/obj/cam1/" as the node; a declared driver's camera is a node path.
+    const QString node = d.declared() && v.size() > 1 && v.endsWith(u'/') ? v.chopped(1) : v;
     if (!d.proxyCamera)
-        d.scene.cameras.addDriver(_zkString8_allSize<150>(v), d.path);
+        d.scene.cameras.addDriver(_zkString8_allSize<150>(node), d.path);
     return Step::Next;
 }
 
@@ -437,6 +448,9 @@ void constructFileCachePath(Driver& d)
         d.cache, [&d](const QString& part) { return expandedFileCachePart(d, part); });
     d.imagePath.clear();
     d.isSingleFile = false;
+    // A LOP File Cache's "lopoutput" is the same path as an expression, not an export.
+    d.exportMode = false;
+    d.exportPath.clear();
     if (path.isEmpty())
         return;
     // Through the picture rule, so that ".$F4" becomes the job's frame token.
