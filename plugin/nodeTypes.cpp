@@ -130,9 +130,13 @@ namespace {
 
 /// The next \p magic in \p line at or after \p from, or -1. Most lines the
 /// scan hands over are short member headers, where a substring search costs
-/// more to set up than this walk over the magic's first character.
+/// more to set up than a walk over the magic's first character.
 qsizetype findMagic(QStringView line, QStringView magic, qsizetype from)
 {
+    // A long line is binary data before a header: there the substring
+    // search pays for its set-up, and the walk would stop at many a '0'.
+    if (line.size() - from > 256)
+        return line.indexOf(magic, from);
     for (qsizetype at = line.indexOf(magic.front(), from); at >= 0;
          at = line.indexOf(magic.front(), at + 1)) {
         if (line.mid(at).startsWith(magic))
@@ -159,7 +163,8 @@ std::optional<MemberHeader> archiveMemberHeader(QStringView line)
         if (end < 0 || end - start > MaxMemberName)
             break;
         const QStringView rest = line.mid(end + 1);
-        if (rest.contains(u'\x1a') || rest.contains(u"0707"))
+        // Too short a rest holds no further header.
+        if (rest.size() >= 6 + HouDigits && (rest.contains(u'\x1a') || rest.contains(u"0707")))
             break;
         MemberHeader header;
         const auto member = memberOfName(line.mid(start, end - start), header.path);
@@ -230,6 +235,9 @@ QStringView initTypeValue(QStringView line)
 QStringView baseTypeName(QStringView declared)
 {
     QStringView type = declared;
+    // Most types have no namespace: a character test spares a substring search.
+    if (!type.contains(u':'))
+        return type;
     const qsizetype lastSep = type.lastIndexOf(u"::");
     if (lastSep >= 0 && isVersionText(type.mid(lastSep + 2)))
         type = type.left(lastSep);
