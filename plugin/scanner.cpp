@@ -558,12 +558,12 @@ void readWireParameters(WireNode& node, ScanStep& step)
 Then readParmMember(QStringView line, const MemberHeader& member, bool mime, ScanStep& step)
 {
     const QString path = member.path.toString();
-    if (NodeEntry* node = step.scene.nodes.insert(path); node && node->parmOffset < 0)
-        node->parmOffset = step.in.lineOffset();
+    Scene& scene = step.scene;
+    NodeEntry* entry = scene.nodes.insert(path);
+    if (entry && entry->parmOffset < 0)
+        entry->parmOffset = step.in.lineOffset();
     if (mime && !reachMimeBody(step))
         return Then::LineDone;
-    Scene& scene = step.scene;
-    const NodeEntry* entry = scene.nodes.find(path);
     if (!entry || entry->type.isEmpty()) {
         // A node without a declared type: its name decides, as in hand-written scenes.
         if (!mime)
