@@ -167,10 +167,12 @@ std::optional<MemberHeader> archiveMemberHeader(QStringView line)
         // Too short a rest holds no further header.
         if (rest.size() >= 6 + HouDigits && (rest.contains(u'\x1a') || rest.contains(u"0707")))
             break;
+        // The header of another member (".spareparmdef", ".userdata"): none
+        // of the scan's.
         MemberHeader header;
         const auto member = memberOfName(line.mid(start, end - start), header.path);
         if (!member)
-            break;
+            return std::nullopt;
         header.member = *member;
         header.rest = rest;
         return header;
