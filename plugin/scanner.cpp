@@ -375,6 +375,24 @@ bool startsMember(QStringView line)
     return line.contains(QChar(0)) && archiveMemberHeader(line).has_value();
 }
 
+/// The ".def" lines the scan reads: the flags line, the "inputs" block (its
+/// entries are read line by line once it has begun), "end", and the lines
+/// that start another member. A ".def" member is mostly lines no rule reads
+/// and real scenes hold tens of thousands of them, so they are searched for
+/// as the scan searches, not read one by one. The member after a ".def" is
+/// text, so its header starts a line.
+const LineSource::Marks& defMarks()
+{
+    static const LineSource::Marks marks = [] {
+        LineSource::Marks m;
+        for (const char* lead :
+            { "flags =", "inputs", "end", "070707", "HouNC", "--", "Content-Disposition:" })
+            m.addLead(lead, false);
+        return m;
+    }();
+    return marks;
+}
+
 /// Reads the body of a member the scan reads whole (".def", ".chn", a MIME
 /// ".init"): each line goes to \p onLine until it returns false. A line that
 /// starts another member ends the body too and is left for the scan, so a
@@ -440,16 +458,31 @@ void readDefMember(const MemberHeader& member, bool mime, ScanStep& step)
     bool bypass = false;
     WireNode wired;
     DefMemberReader wires;
+    bool inInputs = false;
     const auto feed = [&](QStringView line) {
         if (line == u"end")
             return false;
         readFlagsLine(line, bypass);
         wires.feed(line, wired);
+        if (line == u"inputs")
+            inInputs = true;
+        else if (line.startsWith(u'}'))
+            inInputs = false;
         return true;
     };
     // In the archive forms the body's first line shares the header's line.
-    if (mime || feed(member.rest.trimmed()))
-        readMemberBody(step, feed);
+    QByteArrayView raw;
+    if (mime || feed(member.rest.trimmed())) {
+        while (inInputs ? step.in.nextRaw(raw) : step.in.nextMarked(raw, defMarks())) {
+            QString text = LineSource::decode(raw);
+            if (startsMember(text)) {
+                step.pending = std::move(text);
+                break;
+            }
+            if (!feed(text))
+                break;
+        }
+    }
     if (NodeEntry* entry = step.scene.nodes.find(path))
         entry->bypass = bypass;
     if (!wired.display && wired.inputs.isEmpty() && !step.scene.wires.find(path))
@@ -462,6 +495,11 @@ void readDefMember(const MemberHeader& member, bool mime, ScanStep& step)
 
 void readChnMember(const MemberHeader& member, bool mime, ScanStep& step)
 {
+    // Only a driver's frame channels count; animated nodes hold long ".chn"
+    // members, which the scan passes over like any other lines.
+    const NodeEntry* node = step.scene.nodes.find(member.path);
+    if (!node || readerForType(node->type, node->inRopNetwork) != NodeReader::OutputDriver)
+        return;
     step.channelsOf = member.path.toString();
     step.channels = FrameChannelReader();
     int depth = 0;
@@ -520,12 +558,12 @@ void readWireParameters(WireNode& node, ScanStep& step)
 Then readParmMember(QStringView line, const MemberHeader& member, bool mime, ScanStep& step)
 {
     const QString path = member.path.toString();
-    if (NodeEntry* node = step.scene.nodes.insert(path); node && node->parmOffset < 0)
-        node->parmOffset = step.in.lineOffset();
+    Scene& scene = step.scene;
+    NodeEntry* entry = scene.nodes.insert(path);
+    if (entry && entry->parmOffset < 0)
+        entry->parmOffset = step.in.lineOffset();
     if (mime && !reachMimeBody(step))
         return Then::LineDone;
-    Scene& scene = step.scene;
-    const NodeEntry* entry = scene.nodes.find(path);
     if (!entry || entry->type.isEmpty()) {
         // A node without a declared type: its name decides, as in hand-written scenes.
         if (!mime)
@@ -573,9 +611,17 @@ std::optional<MemberHeader> memberHeader(QStringView line)
 /// from where \p in stands up to the offset \p stopAt; null when not found.
 QString parameterInSection(LineSource& in, QStringView path, QStringView parameter, qint64 stopAt)
 {
+    static const LineSource::Marks parmHeaders = [] {
+        LineSource::Marks marks;
+        marks.addPair(".parm", false);
+        return marks;
+    }();
     QByteArrayView raw;
     bool inside = false;
-    while (in.nextRaw(raw) && in.lineOffset() <= stopAt) {
+    // The header is searched for as the scan searches: only lines holding
+    // ".parm" are decoded, so looking ahead costs what the scan does.
+    while (
+        (inside ? in.nextRaw(raw) : in.nextMarked(raw, parmHeaders)) && in.lineOffset() <= stopAt) {
         const QString text = LineSource::decode(raw);
         if (!inside) {
             const auto member = memberHeader(text);

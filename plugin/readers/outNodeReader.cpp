@@ -423,18 +423,13 @@ void takeFileCacheLine(Driver& d, const sectionLoop::SectionLine& line)
 /// One part of a constructed path with its variables expanded, as the
 /// node's own expression expands each part before joining them; null when
 /// the part is refused (an unresolved reference).
-QString expandedFileCachePart(const Driver& d, const QString& part)
+QString expandedFileCachePart(const Driver& d, zkJ::_JobBasics_largePath& job, const QString& part)
 {
     const QString local = nodeLocal(d, part);
     if (local.contains("chs("_L1))
         return QString();
-    auto job = std::make_unique<zkJ::_JobBasics_largePath>();
-    job->sceneDatabaseDir.set(d.scene.databaseDir);
-    job->layer.set(d.path);
-    job->seqStart = d.frameStart;
-    job->seqEnd = d.frameEnd;
     const QString expanded
-        = replaceHoudiniVariables(local, job.get(), d.scene.variables, d.scene.sceneFile);
+        = replaceHoudiniVariables(local, &job, d.scene.variables, d.scene.sceneFile);
     return expanded.isNull() ? QStringLiteral("") : expanded;
 }
 
@@ -444,8 +439,15 @@ void constructFileCachePath(Driver& d)
 {
     if (d.type != "filecache"_L1 || !fileCacheConstructed(d.cache.filemethod))
         return;
+    // The expansion reads the scene's folder, the node and its range from a
+    // job record; one stands in for the job the driver is about to make.
+    auto job = std::make_unique<zkJ::_JobBasics_largePath>();
+    job->sceneDatabaseDir.set(d.scene.databaseDir);
+    job->layer.set(d.path);
+    job->seqStart = d.frameStart;
+    job->seqEnd = d.frameEnd;
     const QString path = composeFileCachePath(
-        d.cache, [&d](const QString& part) { return expandedFileCachePart(d, part); });
+        d.cache, [&](const QString& part) { return expandedFileCachePart(d, *job, part); });
     d.imagePath.clear();
     d.isSingleFile = false;
     // A LOP File Cache's "lopoutput" is the same path as an expression, not an export.
