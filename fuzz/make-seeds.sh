@@ -27,8 +27,9 @@ printf '#zkargs -houdiniBuildVersion -houdiniCompressedIFD -customRenVer_Arnold 
     | cat - examples/mantra_ifd.hip > "$out/load/args_all_switches.hip"
 
 # Real scenes run to megabytes of binary members; a slice keeps the global
-# lines and the sections the readers take (under out/, obj/, img/, stage/),
-# cut into pieces of about 6 KB, at most four per scene.
+# lines, the node members that declare types, flags and frame channels
+# (".init", ".def", ".chn") and the sections the readers take (under out/,
+# obj/, img/, stage/), cut into pieces of about 6 KB, at most four per scene.
 if [ -d "$corpus" ]; then
     n=0
     while IFS= read -r -d '' scene; do
@@ -42,6 +43,14 @@ if [ -d "$corpus" ]; then
             }
             {
                 t = trim($0)
+                if (member) {
+                    section = section $0 "\n"
+                    if (t == "end" || t ~ /^}$/ || length(section) > 3000) {
+                        member = 0
+                        if (length(section) < 3000) chunk = chunk section
+                    }
+                    next
+                }
                 if (inside) {
                     section = section $0 "\n"
                     if (t ~ /^}/) {
@@ -55,6 +64,8 @@ if [ -d "$corpus" ]; then
                     if (length(globals) < 1000) globals = globals $0 "\n"
                     next
                 }
+                if (t ~ /\.init.type = /) { chunk = chunk $0 "\n"; next }
+                if (t ~ /\.(def|chn).(comment|\{)/) { member = 1; section = $0 "\n"; next }
                 if (t ~ /\.parm.?.?\{$/ && t ~ /(out|obj|img|stage)\//) { inside = 1; section = $0 "\n" }
             }
             END { emit() }' "$scene"

@@ -4,13 +4,12 @@
 #include "plugin/elements/elementSection.h"
 #include "plugin/jobCopy.h"
 #include "plugin/jobWalk.h"
+#include "plugin/wires.h"
 
 #include <QHash>
 
 #include <algorithm>
 #include <array>
-#include <map>
-#include <tuple>
 #include <vector>
 
 namespace {
@@ -21,6 +20,8 @@ const QString WedgeNumBraced = QStringLiteral("${WEDGENUM}");
 const QString WedgeNum = QStringLiteral("$WEDGENUM");
 const QString WedgeBraced = QStringLiteral("${WEDGE}");
 const QString Wedge = QStringLiteral("$WEDGE");
+/// Where both braced tokens start.
+const QString WedgeBracedStart = QStringLiteral("${WEDGE");
 
 /// Applies \p edit to the paths that can carry wedge tokens: the image
 /// output, and the scene a render job reads (an export's path often holds
@@ -29,7 +30,8 @@ template <typename Edit>
 void editWedgePaths(zkJ::_JobBasics_largePath& job, Edit&& edit)
 {
     for (_zkString<1000>* field : { &job.imageDir, &job.imageFileName, &job.sceneName }) {
-        if (!field->view().contains(Wedge))
+        // A braced token can arrive through a scene variable ("render/${WEDGE}").
+        if (!field->view().contains(Wedge) && !field->view().contains(WedgeBracedStart))
             continue;
         QString text = field->toQString();
         edit(text);
@@ -81,10 +83,56 @@ private:
     elementSection::FirstIndex byName;
 };
 
+/// Where each job of the fan-out came from, at its index in the job array,
+/// so the waits can be written once every copy exists.
+using FannedJobs = std::vector<FannedJob>;
+
+/// The jobs each job waits for, by index, before anything is copied. A
+/// preID that repeats (past 255 jobs) stands for its first job.
+std::vector<std::vector<int>> baseWaits(zkJ::_JobBasicsArray& jobs, FannedJobs& fanned)
+{
+    std::array<int, 256> firstWithPreID;
+    firstWithPreID.fill(-1);
+    forEachJob(jobs, [&](const zkJ::_JobBasics_largePath& job, int j) {
+        if (firstWithPreID[job.preID] < 0)
+            firstWithPreID[job.preID] = j;
+        fanned.push_back({ j, 0, QString(), job.preID });
+        return LoadOk;
+    });
+    std::vector<std::vector<int>> waits(fanned.size());
+    forEachJob(jobs, [&](const zkJ::_JobBasics_largePath& job, int j) {
+        const int n = std::min<int>(job.waitForPreIDCount, int(sizeof(job.waitForPreIDs)));
+        for (int i = 0; i < n; ++i) {
+            const int upstream = firstWithPreID[job.waitForPreIDs[i]];
+            if (upstream >= 0)
+                waits[std::size_t(j)].push_back(upstream);
+        }
+        return LoadOk;
+    });
+    return waits;
+}
+
+/// Replaces the waits of every job: each copy waits inside its own take and
+/// variant.
+void writeFannedWaits(
+    zkJ::_JobBasicsArray& jobs, const FannedJobs& fanned, const std::vector<std::vector<int>>& base)
+{
+    const std::vector<std::vector<int>> waits = fannedOutWaits(fanned, base);
+    forEachJob(jobs, [&](zkJ::_JobBasics_largePath& job, int j) {
+        std::fill(std::begin(job.waitForPreIDs), std::end(job.waitForPreIDs), 0);
+        job.waitForPreIDCount = 0;
+        if (std::size_t(j) < waits.size()) {
+            for (const int preID : waits[std::size_t(j)])
+                job.addWaitForPreID(static_cast<unsigned char>(preID));
+        }
+        return LoadOk;
+    });
+}
+
 /// Every job renders the scene's first take unless its driver names one of
 /// its own; the jobs of drivers without a take of their own are copied once
 /// per further take.
-LoadResult fanOutTakes(Scene& scene)
+LoadResult fanOutTakes(Scene& scene, FannedJobs& fanned)
 {
     zkJ::_JobBasicsArray& jobs = scene.jobs;
     const QStringList& takes = scene.takes;
@@ -113,31 +161,25 @@ LoadResult fanOutTakes(Scene& scene)
             // 8-bit arithmetic: t x n wraps like the fields it is added to.
             const auto shift = static_cast<unsigned char>((t % 256) * (n % 256));
             copy->preID = static_cast<unsigned char>(copy->preID + shift);
-            if (copy->waitForPreIDs[0] != 0)
-                copy->waitForPreIDs[0] = static_cast<unsigned char>(copy->waitForPreIDs[0] + shift);
+            fanned.push_back({ j, t, QString(), copy->preID });
         }
     }
     return LoadOk;
 }
 
-/// Copies the jobs of wedged drivers once per variant. A copy that waits
-/// waits for the copy of its export made for the same wedge and variant, so
-/// each variant renders the scene files written for it.
-LoadResult fanOutWedges(Scene& scene)
+/// Copies the jobs of wedged drivers once per variant. A copy's waits are
+/// written later: for the copies of the same wedge and variant, so each
+/// variant renders the scene files written for it.
+LoadResult fanOutWedges(Scene& scene, FannedJobs& fanned)
 {
     zkJ::_JobBasicsArray& jobs = scene.jobs;
     QList<WedgeNode>& wedges = scene.wedges;
     const int m = jobs.count;
     int counter = m;
-    // The job a waiting copy's source waits for: the first with that preID.
-    std::array<int, 256> firstWithPreID;
-    firstWithPreID.fill(-1);
-    const LoadResult numbered = forEachJob(jobs, [&](const zkJ::_JobBasics_largePath& job, int j) {
+    const LoadResult numbered = forEachJob(jobs, [&](const zkJ::_JobBasics_largePath& job, int) {
         // A driver with its own take was not copied per take, which leaves
         // preIDs above m; the wedge copies must not repeat them.
         counter = std::max(counter, int(job.preID));
-        if (firstWithPreID[job.preID] < 0)
-            firstWithPreID[job.preID] = j;
         return LoadOk;
     });
     if (numbered != LoadOk)
@@ -147,8 +189,6 @@ LoadResult fanOutWedges(Scene& scene)
     QHash<QString, std::vector<int>> wedgesOf;
     for (int w = 0; w < wedges.size(); ++w)
         wedgesOf[wedges.at(w).driver].push_back(w);
-    // preID of the copy of job j made for wedge w and variant k.
-    std::map<std::tuple<int, int, int>, unsigned char> copies;
     return forEachJob(jobs, [&](const zkJ::_JobBasics_largePath& job, int j) {
         const auto driven = wedgesOf.constFind(job.layer.toQString());
         for (const int w : driven == wedgesOf.cend() ? std::vector<int>() : *driven) {
@@ -158,7 +198,8 @@ LoadResult fanOutWedges(Scene& scene)
                 zkJ::_JobBasics_largePath* copy = appendCopy(jobs, j);
                 if (!copy)
                     return LoadNoJobRecord;
-                copy->sceneState.set(wedge.nodePath + u'*' + QString::number(k));
+                const QString variant = wedge.nodePath + u'*' + QString::number(k);
+                copy->sceneState.set(variant);
                 const QString number = QString::number(k);
                 const QString name = wedge.fileName(k);
                 editWedgePaths(*copy, [&](QString& text) {
@@ -169,13 +210,10 @@ LoadResult fanOutWedges(Scene& scene)
                 });
                 ++counter;
                 copy->preID = static_cast<unsigned char>(counter);
-                copies[{ j, w, k }] = copy->preID;
-                const unsigned char waitsFor = copy->waitForPreIDs[0];
-                if (waitsFor == 0)
-                    continue;
-                const auto found = copies.find({ firstWithPreID[waitsFor], w, k });
-                if (found != copies.end())
-                    copy->waitForPreIDs[0] = found->second;
+                const FannedJob from = std::size_t(j) < fanned.size()
+                    ? fanned[std::size_t(j)]
+                    : FannedJob { j, 0, QString(), 0 };
+                fanned.push_back({ from.source, from.take, variant, copy->preID });
             }
         }
         // Copying may have moved the records.
@@ -192,15 +230,21 @@ LoadResult fanOutJobs(Scene& scene)
 {
     zkJ::_JobBasicsArray& jobs = scene.jobs;
     // With the take flag but no take in the scene there is no take to name.
-    if ((scene.takes.size() > 1 || scene.takeFound) && !scene.takes.isEmpty()) {
-        const LoadResult result = fanOutTakes(scene);
-        if (result != LoadOk)
-            return result;
-    }
-    if (scene.emptyDriverFound && jobs.count == 0)
+    const bool perTake = (scene.takes.size() > 1 || scene.takeFound) && !scene.takes.isEmpty();
+    const bool perVariant = !scene.wedges.isEmpty();
+    FannedJobs fanned;
+    const std::vector<std::vector<int>> waits
+        = perTake || perVariant ? baseWaits(jobs, fanned) : std::vector<std::vector<int>>();
+    LoadResult result = perTake ? fanOutTakes(scene, fanned) : LoadOk;
+    if (result == LoadOk && scene.emptyDriverFound && jobs.count == 0)
         return LoadOnlyEmptyDrivers;
-    if (!scene.wedges.isEmpty())
-        return fanOutWedges(scene);
+    if (result == LoadOk && perVariant)
+        result = fanOutWedges(scene, fanned);
+    // Also after a refused copy: the copies made so far wait as they should.
+    if (perTake || perVariant)
+        writeFannedWaits(jobs, fanned, waits);
+    if (result != LoadOk || perVariant)
+        return result;
     return forEachJob(jobs, [](zkJ::_JobBasics_largePath& job, int) {
         removeWedgeTokens(job);
         return LoadOk;

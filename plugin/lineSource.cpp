@@ -344,9 +344,19 @@ void LineSource::Marks::addLead(const char* text, bool anyCase, const char* also
 
 void LineSource::Marks::addPair(const char* text, bool anyCase)
 {
+    const char first = anyCase ? zkAscii::lower(text[0]) : text[0];
+    for (int k = 0; k < keyCount; ++k) {
+        const Key& earlier = keys[size_t(k)];
+        if (!earlier.lead && earlier.anyCase == anyCase && earlier.text[0] == first) {
+            const unsigned shared = earlier.pairBit;
+            addKey(text, anyCase, false).pairBit = shared;
+            add(shared, text, anyCase);
+            return;
+        }
+    }
     if (pairs >= 2)
         return;
-    addKey(text, anyCase, false);
+    addKey(text, anyCase, false).pairBit = PairFirstBit[pairs];
     add(PairFirstBit[pairs], text, anyCase);
     ++pairs;
 }
@@ -437,6 +447,7 @@ qsizetype LineSource::findNewline(qsizetype from)
 QByteArrayView LineSource::take(qsizetype end)
 {
     QByteArrayView line(buffer.constData() + pos, end - pos);
+    lineStart = offsetAt(pos);
     pos = end < size ? end + 1 : size;
     searched = pos;
     // Over-long lines read as empty; fill() keeps an unfinished one from growing past the limit.
@@ -518,9 +529,22 @@ void LineSource::dropConsumed()
         return;
     char* const data = buffer.data();
     std::memmove(data, data + pos, size_t(size - pos));
+    dropped(pos);
     size -= pos;
     searched -= pos;
     pos = 0;
+}
+
+void LineSource::dropped(qsizetype count)
+{
+    if (count >= chunkIndex) {
+        bufferOffset = chunkOffset + (count - chunkIndex);
+        chunkIndex = 0;
+        chunkOffset = bufferOffset;
+    } else {
+        bufferOffset += count;
+        chunkIndex -= count;
+    }
 }
 
 bool LineSource::readChunk()
@@ -529,8 +553,15 @@ bool LineSource::readChunk()
         buffer.resize(size + ChunkBytes + Padding);
     const qsizetype before = size;
     if (QIODevice* device = in.device()) {
+        const qint64 at = device->pos();
         const qint64 got = device->read(buffer.data() + size, ChunkBytes);
         size += got > 0 ? qsizetype(got) : 0;
+        if (got > 0) {
+            chunkIndex = before;
+            chunkOffset = at;
+            if (before == 0)
+                bufferOffset = at;
+        }
     } else if (const QString* text = in.string(); text && !started) {
         // A stream over a string: its text is in memory already.
         const QByteArray utf8 = text->toUtf8();
@@ -580,6 +611,7 @@ bool LineSource::fill()
         if (end >= 0) {
             char* const data = buffer.data();
             std::memmove(data, data + end, size_t(size - end));
+            dropped(end);
             size -= end;
             std::memset(data + size, 0, Padding);
             searched = 0;

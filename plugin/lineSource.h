@@ -62,8 +62,10 @@ public:
         /// and which, when \p alsoHolds is given, also holds those bytes
         /// (exactly) somewhere.
         void addLead(const char* text, bool anyCase, const char* alsoHolds = nullptr);
-        /// A line holding \p text (two bytes or more) anywhere; at most two
-        /// such texts.
+        /// A line holding \p text (two bytes or more) anywhere. Texts of at
+        /// most two different first bytes: one that starts like an earlier
+        /// pair shares its byte classes (".parm", ".init"), so only its
+        /// second byte widens the search.
         ///
         /// Keys that ignore case do so for ASCII letters and for the two
         /// non-ASCII characters that fold to one (U+017F to 's', U+212A to
@@ -109,11 +111,12 @@ public:
             bool anyCase = false;
             bool lead = false;
             const char* alsoHolds = nullptr;
+            unsigned pairBit = 0; ///< a pair's first-byte class
         };
         void add(unsigned firstBit, const char* text, bool anyCase);
         Key& addKey(const char* text, bool anyCase, bool lead);
 
-        std::array<Key, 8> keys {};
+        std::array<Key, 12> keys {};
         int keyCount = 0;
         int pairs = 0;
     };
@@ -134,6 +137,20 @@ public:
         return QString::fromUtf8(raw).trimmed();
     }
 
+    /// At or before the file offset of the last line handed out: "\r" bytes
+    /// removed from the chunk it stands in may put it that much early. -1
+    /// when the lines come from no device. A reader may seek the device
+    /// there later, in a line source of its own, to read a passed line again.
+    qint64 lineOffset() const
+    {
+        return in.device() ? lineStart : -1;
+    }
+    /// The device the lines come from; null for a stream over a string.
+    QIODevice* device() const
+    {
+        return in.device();
+    }
+
     /// Whether lines are searched with AVX2 where the processor has it (the
     /// default) or byte by byte, as on processors without it. For tests and
     /// benchmarks; affects every line source.
@@ -149,6 +166,13 @@ private:
     qsizetype findNewline(qsizetype from);
     /// Hands out the line [pos, end) and moves past its "\n".
     QByteArrayView take(qsizetype end);
+    /// The first \p count bytes of the buffer were dropped.
+    void dropped(qsizetype count);
+    /// At or before the file offset of buffer[index].
+    qint64 offsetAt(qsizetype index) const
+    {
+        return index >= chunkIndex ? chunkOffset + (index - chunkIndex) : bufferOffset + index;
+    }
 
     QTextStream& in;
     /// The unread bytes and some consumed ones before them, then Padding
@@ -159,4 +183,11 @@ private:
     qsizetype searched = 0; ///< no "\n" stands between pos and this index
     bool started = false;
     bool exhausted = false;
+    /// At or before the file offset of buffer[0]; removed "\r" bytes only
+    /// move a byte's buffer index below its file offset.
+    qint64 bufferOffset = 0;
+    /// Where the newest chunk starts in the buffer, and its file offset.
+    qsizetype chunkIndex = 0;
+    qint64 chunkOffset = 0;
+    qint64 lineStart = 0;
 };

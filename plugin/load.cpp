@@ -22,6 +22,8 @@ LoadResult loadLines(const LoadContext& ctx, QIODevice& device)
     if (result == LoadOk)
         result = completeJobs(scene);
     if (result == LoadOk)
+        result = waitForWiredDrivers(scene);
+    if (result == LoadOk)
         result = fanOutJobs(scene);
     // The host reads count records: whatever count it handed in, it must not
     // be told of more records than the array holds.

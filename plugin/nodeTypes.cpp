@@ -1,6 +1,7 @@
 #include "plugin/nodeTypes.h"
 
 #include <array>
+#include <string_view>
 
 namespace {
 
@@ -126,15 +127,59 @@ bool listed(const std::array<QStringView, N>& list, QStringView type)
 
 } // namespace
 
+namespace {
+
+/// The next \p magic in \p line at or after \p from, or -1. Most lines the
+/// scan hands over are short member headers, where a substring search costs
+/// more to set up than a walk over the magic's first character.
+qsizetype findMagic(QStringView line, QStringView magic, qsizetype from)
+{
+    // A long line is binary data before a header: there the substring
+    // search pays for its set-up, and the walk would stop at many a '0'.
+    if (line.size() - from > 256)
+        return line.indexOf(magic, from);
+    for (qsizetype at = line.indexOf(magic.front(), from); at >= 0;
+         at = line.indexOf(magic.front(), at + 1)) {
+        if (line.mid(at).startsWith(magic))
+            return at;
+    }
+    return -1;
+}
+
+} // namespace
+
 std::optional<MemberHeader> archiveMemberHeader(QStringView line)
 {
     // One pass over the candidates in line order, so that a hostile line of
     // magics and NULs costs time linear in its length: the next NUL after a
     // name's start only moves forward.
     static constexpr QStringView Magics[] = { u"070707", u"HouNC\x1a", u"HouLC\x1a" };
+    // Nearly every header the scan meets starts its line, and nothing after
+    // its NUL looks like another: that one is read without a search.
+    for (const QStringView magic : Magics) {
+        if (!line.startsWith(magic))
+            continue;
+        const qsizetype start = nameStart(line, 0);
+        const qsizetype end = start < 0 ? -1 : line.indexOf(QChar(u'\0'), start);
+        if (end < 0 || end - start > MaxMemberName)
+            break;
+        const QStringView rest = line.mid(end + 1);
+        // Too short a rest holds no further header.
+        if (rest.size() >= 6 + HouDigits && (rest.contains(u'\x1a') || rest.contains(u"0707")))
+            break;
+        // The header of another member (".spareparmdef", ".userdata"): none
+        // of the scan's.
+        MemberHeader header;
+        const auto member = memberOfName(line.mid(start, end - start), header.path);
+        if (!member)
+            return std::nullopt;
+        header.member = *member;
+        header.rest = rest;
+        return header;
+    }
     qsizetype next[3];
     for (int m = 0; m < 3; ++m)
-        next[m] = line.indexOf(Magics[m]);
+        next[m] = findMagic(line, Magics[m], 0);
     qsizetype nul = -1;
     std::optional<MemberHeader> last;
     for (;;) {
@@ -145,7 +190,7 @@ std::optional<MemberHeader> archiveMemberHeader(QStringView line)
         if (m < 0)
             return last;
         const qsizetype magic = next[m];
-        next[m] = line.indexOf(Magics[m], magic + 1);
+        next[m] = findMagic(line, Magics[m], magic + 1);
         const qsizetype start = nameStart(line, magic);
         if (start < 0)
             continue;
@@ -193,6 +238,9 @@ QStringView initTypeValue(QStringView line)
 QStringView baseTypeName(QStringView declared)
 {
     QStringView type = declared;
+    // Most types have no namespace: a character test spares a substring search.
+    if (!type.contains(u':'))
+        return type;
     const qsizetype lastSep = type.lastIndexOf(u"::");
     if (lastSep >= 0 && isVersionText(type.mid(lastSep + 2)))
         type = type.left(lastSep);
@@ -204,7 +252,10 @@ bool readFlagsLine(QStringView line, bool& bypass)
 {
     if (!line.startsWith(u"flags ="))
         return false;
-    bypass = line.contains(u" bypass on");
+    // A plain search: Qt's substring search costs more to set up than this
+    // line of a few hundred characters takes to walk.
+    bypass = std::u16string_view(line.utf16(), size_t(line.size())).find(u" bypass on")
+        != std::u16string_view::npos;
     return true;
 }
 

@@ -1,8 +1,15 @@
 #include "scanner.h"
 
+#include "plugin/frameChannels.h"
+#include "plugin/nodeTypes.h"
+#include "plugin/parameterLine.h"
 #include "shared/zkAscii.h"
 #include "shared/zkShared.h"
 
+#include <QIODevice>
+#include <QTextStream>
+
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <string>
@@ -200,8 +207,8 @@ void readFrameRange(QStringView line, Scene& scene)
     const qsizetype blank = rest.indexOf(u' ');
     if (blank < 0)
         return;
-    scene.frameStart = rest.left(blank).toInt();
-    scene.frameEnd = rest.mid(blank + 1).toInt();
+    scene.frameStart = roundedFrameNumber(rest.left(blank));
+    scene.frameEnd = roundedFrameNumber(rest.mid(blank + 1));
 }
 
 void readSaveVersion(QStringView line, Scene& scene)
@@ -290,6 +297,15 @@ struct ScanStep
     const SectionReaders& readers;
     QString& header;
     LoadResult result = LoadOk;
+    /// A line read while looking for a member's end that starts another
+    /// member: the scan takes it next.
+    QString pending;
+    /// The last ".chn" member read and the node it belongs to; it counts
+    /// for that node's section only.
+    QString channelsOf;
+    FrameChannelReader channels;
+    /// Bytes read again for channel references so far.
+    qint64 rereadBytes = 0;
 };
 
 Then takeFrameRange(QStringView line, ScanStep& step)
@@ -341,6 +357,335 @@ Then takeSection(QStringView line, ScanStep& step)
     return step.result == LoadOk ? Then::LineDone : Then::StopScan;
 }
 
+/// Lines between a MIME part header and its body's "{": a "Content-Type"
+/// line and an empty line in real scenes.
+constexpr int MaxMimePreamble = 4;
+
+/// Whether \p line starts a member of the archive or a MIME part.
+bool startsMember(QStringView line)
+{
+    if (line.startsWith(u"--") || line.startsWith(u"Content-Disposition:"))
+        return true;
+    return line.contains(QChar(0)) && archiveMemberHeader(line).has_value();
+}
+
+/// The ".def" lines the scan reads: the flags line, the "inputs" block (its
+/// entries are read line by line once it has begun), "end", and the lines
+/// that start another member. A ".def" member is mostly lines no rule reads
+/// and real scenes hold tens of thousands of them, so they are searched for
+/// as the scan searches, not read one by one. The member after a ".def" is
+/// text, so its header starts a line.
+const LineSource::Marks& defMarks()
+{
+    static const LineSource::Marks marks = [] {
+        LineSource::Marks m;
+        for (const char* lead :
+            { "flags =", "inputs", "end", "070707", "HouNC", "--", "Content-Disposition:" })
+            m.addLead(lead, false);
+        return m;
+    }();
+    return marks;
+}
+
+/// Reads the body of a member the scan reads whole (".def", ".chn", a MIME
+/// ".init"): each line goes to \p onLine until it returns false. A line that
+/// starts another member ends the body too and is left for the scan, so a
+/// member without its usual last line hides no member after it.
+template <typename OnLine>
+void readMemberBody(ScanStep& step, OnLine&& onLine)
+{
+    QByteArrayView raw;
+    while (step.in.nextRaw(raw)) {
+        QString text = LineSource::decode(raw);
+        if (startsMember(text)) {
+            step.pending = std::move(text);
+            return;
+        }
+        if (!onLine(QStringView(text)))
+            return;
+    }
+}
+
+/// Moves past a MIME part's preamble to its "{" line; false when another
+/// line comes first (it is left for the scan).
+bool reachMimeBody(ScanStep& step)
+{
+    QByteArrayView raw;
+    for (int i = 0; i < MaxMimePreamble && step.in.nextRaw(raw); ++i) {
+        QString text = LineSource::decode(raw);
+        if (text == u"{")
+            return true;
+        if (text.isEmpty() || text.startsWith(u"Content-", Qt::CaseInsensitive))
+            continue;
+        step.pending = std::move(text);
+        return false;
+    }
+    return false;
+}
+
+void readInitMember(const MemberHeader& member, bool mime, ScanStep& step)
+{
+    const QString path = member.path.toString();
+    QString type;
+    if (!mime) {
+        type = initTypeValue(member.rest.trimmed()).toString();
+    } else {
+        readMemberBody(step, [&](QStringView line) {
+            const QStringView declared = initTypeValue(line);
+            if (declared.isNull())
+                return true;
+            type = declared.toString();
+            return false;
+        });
+    }
+    if (type.isEmpty())
+        return;
+    const QStringView base = baseTypeName(type);
+    if (NodeEntry* entry = step.scene.nodes.insert(path))
+        entry->type = base.toString();
+    step.scene.wires.setType(path, base);
+}
+
+void readDefMember(const MemberHeader& member, bool mime, ScanStep& step)
+{
+    const QString path = member.path.toString();
+    bool bypass = false;
+    WireNode wired;
+    DefMemberReader wires;
+    bool inInputs = false;
+    const auto feed = [&](QStringView line) {
+        if (line == u"end")
+            return false;
+        readFlagsLine(line, bypass);
+        wires.feed(line, wired);
+        if (line == u"inputs")
+            inInputs = true;
+        else if (line.startsWith(u'}'))
+            inInputs = false;
+        return true;
+    };
+    // In the archive forms the body's first line shares the header's line.
+    QByteArrayView raw;
+    if (mime || feed(member.rest.trimmed())) {
+        while (inInputs ? step.in.nextRaw(raw) : step.in.nextMarked(raw, defMarks())) {
+            QString text = LineSource::decode(raw);
+            if (startsMember(text)) {
+                step.pending = std::move(text);
+                break;
+            }
+            if (!feed(text))
+                break;
+        }
+    }
+    if (NodeEntry* entry = step.scene.nodes.find(path))
+        entry->bypass = bypass;
+    if (!wired.display && wired.inputs.isEmpty() && !step.scene.wires.find(path))
+        return;
+    if (WireNode* node = step.scene.wires.insert(path)) {
+        node->display = wired.display;
+        node->inputs = wired.inputs;
+    }
+}
+
+void readChnMember(const MemberHeader& member, bool mime, ScanStep& step)
+{
+    // Only a driver's frame channels count; animated nodes hold long ".chn"
+    // members, which the scan passes over like any other lines.
+    const NodeEntry* node = step.scene.nodes.find(member.path);
+    if (!node || readerForType(node->type, node->inRopNetwork) != NodeReader::OutputDriver)
+        return;
+    step.channelsOf = member.path.toString();
+    step.channels = FrameChannelReader();
+    int depth = 0;
+    bool opened = false;
+    const auto feed = [&](QStringView line) {
+        step.channels.readLine(line);
+        for (const QChar c : line) {
+            if (c == u'{') {
+                ++depth;
+                opened = true;
+            } else if (c == u'}') {
+                --depth;
+            }
+        }
+        return !(opened && depth <= 0);
+    };
+    if (mime || feed(member.rest.trimmed()))
+        readMemberBody(step, feed);
+}
+
+SectionKind kindOfReader(NodeReader reader)
+{
+    switch (reader) {
+    case NodeReader::OutputDriver:
+        return SectionKind::OutNode;
+    case NodeReader::Camera:
+        return SectionKind::Camera;
+    case NodeReader::Wedge:
+        return SectionKind::Wedge;
+    case NodeReader::UsdRenderSettings:
+        return SectionKind::UsdRenderSettings;
+    case NodeReader::Lop:
+        return SectionKind::Lop;
+    case NodeReader::None:
+        break;
+    }
+    return SectionKind::None;
+}
+
+/// A fetch's or switch's parameters redirect the wires; no reader reads them.
+void readWireParameters(WireNode& node, ScanStep& step)
+{
+    QByteArrayView raw;
+    while (step.in.nextRaw(raw)) {
+        QString text = LineSource::decode(raw);
+        if (text.startsWith(u'}'))
+            return;
+        if (startsMember(text)) {
+            step.pending = std::move(text);
+            return;
+        }
+        WireGraph::readParameterLine(node, text);
+    }
+}
+
+Then readParmMember(QStringView line, const MemberHeader& member, bool mime, ScanStep& step)
+{
+    const QString path = member.path.toString();
+    Scene& scene = step.scene;
+    NodeEntry* entry = scene.nodes.insert(path);
+    if (entry && entry->parmOffset < 0)
+        entry->parmOffset = step.in.lineOffset();
+    if (mime && !reachMimeBody(step))
+        return Then::LineDone;
+    if (!entry || entry->type.isEmpty()) {
+        // A node without a declared type: its name decides, as in hand-written scenes.
+        if (!mime)
+            return takeSection(line, step);
+        return takeSection(QString(path + QStringLiteral(".parm {")), step);
+    }
+    const SectionKind kind = kindOfReader(readerForType(entry->type, entry->inRopNetwork));
+    const SectionReader reader = step.readers[kind];
+    if (!reader) {
+        const WireNode* wired = scene.wires.find(path);
+        if (wired && (wired->type == u"fetch" || wired->type == u"switch"))
+            readWireParameters(*scene.wires.insert(path), step);
+        return Then::LineDone;
+    }
+    Scene::DeclaredSection& section = scene.section;
+    section.path = u'/' + path;
+    section.type = entry->type;
+    section.bypass = entry->bypass;
+    section.channels = step.channelsOf == path ? step.channels : FrameChannelReader();
+    step.header = path + QStringLiteral(".parm {");
+    step.result = reader(scene, step.in, step.header);
+    section = Scene::DeclaredSection();
+    return step.result == LoadOk ? Then::LineDone : Then::StopScan;
+}
+
+/// Reading a section again for a channel reference. A reference to a node
+/// before the driver starts at the node's remembered ".parm" offset, at most
+/// a chunk before its header; one to a node after it looks ahead from the
+/// driver's line, at most MaxLookAheadBytes. All references of a load read
+/// at most MaxRereadBytes again, so a scene of millions of references costs
+/// a bounded multiple of its size; past that, references stay unresolved.
+constexpr qint64 MaxLookAheadBytes = qint64(64) << 20;
+constexpr qint64 MaxRereadBytes = qint64(256) << 20;
+
+std::optional<MemberHeader> memberHeader(QStringView line)
+{
+    if (line.contains(QChar(0)))
+        return archiveMemberHeader(line);
+    if (line.startsWith(u'C'))
+        return mimeMemberHeader(line);
+    return std::nullopt;
+}
+
+/// The value of \p parameter in the ".parm" section of \p path, searched for
+/// from where \p in stands up to the offset \p stopAt; null when not found.
+QString parameterInSection(LineSource& in, QStringView path, QStringView parameter, qint64 stopAt)
+{
+    static const LineSource::Marks parmHeaders = [] {
+        LineSource::Marks marks;
+        marks.addPair(".parm", false);
+        return marks;
+    }();
+    QByteArrayView raw;
+    bool inside = false;
+    // The header is searched for as the scan searches: only lines holding
+    // ".parm" are decoded, so looking ahead costs what the scan does.
+    while (
+        (inside ? in.nextRaw(raw) : in.nextMarked(raw, parmHeaders)) && in.lineOffset() <= stopAt) {
+        const QString text = LineSource::decode(raw);
+        if (!inside) {
+            const auto member = memberHeader(text);
+            inside = member && member->member == NodeMember::Parm && member->path == path;
+            continue;
+        }
+        if (text.startsWith(u'}') || startsMember(text))
+            return QString();
+        if (text.size() > parameter.size() && text.startsWith(parameter)
+            && text[parameter.size()].isSpace()) {
+            const QString value = parameterLine::outerBracketValue(text);
+            return value.isNull() ? QStringLiteral("") : value;
+        }
+    }
+    return QString();
+}
+
+QString referencedValue(ScanStep& step, QStringView nodePath, QStringView parameter)
+{
+    QIODevice* device = step.in.device();
+    if (!device || device->isSequential() || step.rereadBytes >= MaxRereadBytes)
+        return QString();
+    const QStringView path = nodePath.startsWith(u'/') ? nodePath.mid(1) : nodePath;
+    const NodeEntry* node = step.scene.nodes.find(path);
+    const bool earlier = node && node->parmOffset >= 0;
+    const qint64 from = earlier ? node->parmOffset : step.in.lineOffset();
+    if (from < 0)
+        return QString();
+    const qint64 budget = MaxRereadBytes - step.rereadBytes;
+    const qint64 stopAt = from + (earlier ? budget : std::min(budget, MaxLookAheadBytes));
+    const qint64 resume = device->pos();
+    QString value;
+    if (device->seek(from)) {
+        QTextStream stream(device);
+        LineSource again(stream);
+        value = parameterInSection(again, path, parameter, stopAt);
+        step.rereadBytes += std::max<qint64>(device->pos() - from, 1);
+    }
+    device->seek(resume);
+    return value;
+}
+
+/// A member header of the archive forms (it holds a NUL) or of the MIME
+/// form; any other line may still be a hand-written section header.
+Then takeMember(QStringView line, ScanStep& step)
+{
+    std::optional<MemberHeader> member;
+    const bool mime = !line.contains(QChar(0));
+    if (!mime)
+        member = archiveMemberHeader(line);
+    else if (line.front() == u'C')
+        member = mimeMemberHeader(line);
+    if (!member)
+        return takeSection(line, step);
+    switch (member->member) {
+    case NodeMember::Init:
+        readInitMember(*member, mime, step);
+        return Then::LineDone;
+    case NodeMember::Def:
+        readDefMember(*member, mime, step);
+        return Then::LineDone;
+    case NodeMember::Chn:
+        readChnMember(*member, mime, step);
+        return Then::LineDone;
+    case NodeMember::Parm:
+        break;
+    }
+    return readParmMember(line, *member, mime, step);
+}
+
 /// Bytes a raw line must hold for a rule to take it: at the line's first
 /// visible byte, or anywhere (LineSource::Marks tells how case is ignored).
 struct ByteKey
@@ -371,7 +716,12 @@ const LineRule LineRules[] = {
     { { { "set -g ", ByteKey::Lead, true }, { "hou", ByteKey::Lead, true } }, " = ",
         takeGlobalVariable },
     { { { "take name", ByteKey::Lead, false } }, nullptr, takeTake },
-    { { { ".parm", ByteKey::Anywhere, false } }, nullptr, takeSection },
+    // A member header, or a hand-written section header; the second rule
+    // only adds the keys of the members the scan reads whole.
+    { { { ".parm", ByteKey::Anywhere, false }, { ".init", ByteKey::Anywhere, false } }, nullptr,
+        takeMember },
+    { { { ".def", ByteKey::Anywhere, false }, { ".chn", ByteKey::Anywhere, false } }, nullptr,
+        takeMember },
 };
 
 /// The keys of every rule, for the line source to look for.
@@ -442,14 +792,24 @@ LoadResult scanScene(Scene& scene, LineSource& in, const SectionReaders& readers
 
     static const LineSource::Marks marks = ruleMarks();
     QString header;
-    ScanStep step { scene, in, readers, header };
+    ScanStep step { scene, in, readers, header, LoadOk, {}, {}, {}, 0 };
+    scene.parameterValue = [&step](QStringView node, QStringView parameter) {
+        return referencedValue(step, node, parameter);
+    };
     QByteArrayView raw;
-    while (mode == ScanMode::EveryLine ? in.nextRaw(raw) : in.nextMarked(raw, marks)) {
-        const QString text = LineSource::decode(raw);
+    for (;;) {
+        QString text;
+        if (!step.pending.isNull())
+            std::swap(text, step.pending);
+        else if (mode == ScanMode::EveryLine ? in.nextRaw(raw) : in.nextMarked(raw, marks))
+            text = LineSource::decode(raw);
+        else
+            break;
         if (text.isEmpty() || text.front() == u'#')
             continue;
         if (applyRules(text, step) == Then::StopScan)
             break;
     }
+    scene.parameterValue = nullptr;
     return step.result;
 }

@@ -8,6 +8,7 @@
 #include "plugin/elements/lopList.h"
 #include "plugin/elements/usdRenderSettingsList.h"
 #include "plugin/elements/wedgeList.h"
+#include "plugin/frameChannels.h"
 #include "plugin/loadContext.h"
 #include "plugin/nodeTable.h"
 #include "plugin/paths/houdiniVariables.h"
@@ -19,6 +20,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <vector>
 
 /// What a job's driver knew that the job record has no field for, kept
@@ -74,6 +76,23 @@ struct Scene
     /// further "set -g" lines are not kept, and paths keep their names.
     QList<SceneVariable> variables;
     listLimits::Bound variablesBound { listLimits::Variables };
+
+    /// The node of the section a reader is reading, as its ".init" member
+    /// declared it; an empty path while the section's node declared no type.
+    struct DeclaredSection
+    {
+        /// "/" + the member path: the node's path wherever it lies.
+        QString path;
+        QString type;
+        bool bypass = false;
+        /// The node's ".chn" member, when it came right before the section.
+        FrameChannelReader channels;
+    };
+    DeclaredSection section;
+    /// The value of parameter \p parameter of the node \p nodePath ("/obj/a/b"),
+    /// unquoted, when the scene holds its line; a null string otherwise. Set
+    /// by the scan, which knows where each node's parameters are.
+    std::function<QString(QStringView nodePath, QStringView parameter)> parameterValue;
 
     CameraList cameras;
     LopList lops;

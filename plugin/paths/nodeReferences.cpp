@@ -168,3 +168,19 @@ QStringView referencedParameter(QStringView resolved)
 {
     return resolved.mid(resolved.lastIndexOf(u'/') + 1);
 }
+
+QString withCachedValues(QString value)
+{
+    for (qsizetype open = value.indexOf(u'['); open >= 0; open = value.indexOf(u'[', open)) {
+        const qsizetype close = value.indexOf(u']', open);
+        if (close < 0)
+            break;
+        const QStringView inside = QStringView(value).mid(open + 1, close - open - 1).trimmed();
+        const qsizetype blank
+            = inside.lastIndexOf(u'\t') >= 0 ? inside.lastIndexOf(u'\t') : inside.lastIndexOf(u' ');
+        const QString number = blank < 0 ? QString() : inside.mid(blank + 1).toString();
+        value.replace(open, close - open + 1, number);
+        open += number.size();
+    }
+    return value;
+}

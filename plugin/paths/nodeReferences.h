@@ -42,3 +42,8 @@ QString resolveParameterReference(QStringView reference, QStringView nodePath);
 /// "/obj/geo1/file1/file": "/obj/geo1/file1" and "file".
 QStringView referencedNode(QStringView resolved);
 QStringView referencedParameter(QStringView resolved);
+
+/// \p value with each channel reference "[ resx\t1280 ]" replaced by the
+/// number in it: a parameter keyed to a channel holds the value Houdini last
+/// cached there ("1\t[ f2\t16 ]\t1" gives "1\t16\t1").
+QString withCachedValues(QString value);

@@ -8,7 +8,7 @@ using namespace elementSection;
 LoadResult readLopSection(Scene& scene, LineSource& in, QString& line)
 {
     LopNode node;
-    node.nodePath = nodePathStage(line);
+    node.nodePath = sectionNodePath(scene, nodePathStage(line));
 
     static const QLatin1String picture("picture\t");
     static const sectionLoop::KeywordStarts starts { picture };

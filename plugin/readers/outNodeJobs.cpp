@@ -192,7 +192,8 @@ void applyResolution(const Driver& d, zkJ::_JobBasics_largePath& job, JobNote& n
 
 LoadResult makeDriverJobs(Driver& d)
 {
-    if (d.path.contains("/karma"_L1)) {
+    const bool karma = d.declared() ? d.type == "karma"_L1 : d.path.contains("/karma"_L1);
+    if (karma) {
         // A Karma driver is its own LOP node: its renderer comes from its name.
         LopNode own;
         own.nodePath = d.path;
@@ -202,7 +203,12 @@ LoadResult makeDriverJobs(Driver& d)
         d.scene.lops.addDriver(d.path, d.path);
         d.marked = (d.marked | bit(Renderer::Usd)) & ~bit(Renderer::OpenGl);
     }
-    if (!isUsableOutput(d.imagePath) || (d.exportMode && !isUsableOutput(d.exportPath))) {
+    const bool usable = d.usdFileOnly
+        ? isUsableOutput(d.exportPath)
+        : isUsableOutput(d.imagePath) && (!d.exportMode || isUsableOutput(d.exportPath));
+    // A bypassed driver writes nothing, but a scene of only such drivers
+    // still has drivers: it reports the empty output, not a missing one.
+    if (!usable || d.bypass) {
         d.scene.emptyDriverFound = true;
         return LoadOk;
     }
@@ -245,7 +251,7 @@ LoadResult makeDriverJobs(Driver& d)
     job->splitImageFileInto_DirFileExt(true);
     job->preID = static_cast<unsigned char>(jobs.count);
 
-    if (d.exportMode && !d.proxyCamera) {
+    if (d.exportMode && !d.proxyCamera && !d.usdFileOnly) {
         const LoadResult result = makeRenderJob(d, firstIndex);
         if (result != LoadOk)
             return result;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "plugin/loadResult.h"
+#include "plugin/paths/fileCachePath.h"
 #include "plugin/renderers.h"
 #include "plugin/scene.h"
 
@@ -22,6 +23,14 @@ struct Driver
     Scene& scene;
 
     QString path; ///< node path such as "/out/mantra1"; the jobs' layer
+    /// The node's type as the scene declares it; empty when it declares none
+    /// and the section's name chose the reader.
+    QString type;
+    bool bypass = false;
+    /// A USD ROP's only output is its USD file: one job writes it, none renders.
+    bool usdFileOnly = false;
+    /// A File Cache's path parameters, for the path it constructs.
+    FileCacheParameters cache;
     QString imagePath;
     QString exportPath; ///< scene-description file of an export
     QString takeName;
@@ -52,6 +61,7 @@ struct Driver
     bool prependPicture = false; ///< Redshift: picture values go in front of the path
 
     bool marks(Renderer r) const { return (marked & bit(r)) != 0; }
+    bool declared() const { return !type.isEmpty(); }
 };
 
 /// The end of a driver's section: its own LOP entry for a Karma driver, then

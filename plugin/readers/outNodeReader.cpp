@@ -9,12 +9,15 @@
 // export toggle read after a Redshift line is not Mantra's toggle.
 #include "outNodeJobs.h"
 #include "plugin/parameterLine.h"
+#include "plugin/paths/houdiniVariables.h"
 #include "plugin/paths/imageTokens.h"
+#include "plugin/paths/nodeReferences.h"
 #include "readerCommon.h"
 #include "sectionLoop.h"
 
 #include <array>
 #include <cmath>
+#include <memory>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
@@ -32,6 +35,41 @@ enum class Step {
     Abandon, ///< leave the section now, without a job
 };
 
+/// Channel references resolved in one value: a reference whose value holds
+/// another is followed this far, so references that lead back to each other end.
+constexpr int MaxReferencesPerValue = 8;
+
+QStringView nodeName(QStringView path)
+{
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}
+
+/// A declared driver's line with what names a node resolved: each backticked
+/// chs() reference the scene can answer becomes the referenced value (whose
+/// "$OS" is the referenced node's name), then a backtick pair around one
+/// variable becomes the variable and "$OS" the driver's name. A reference left in
+/// place makes the path rule refuse the value, as for an undeclared node.
+QString nodeLocal(const Driver& d, const QString& line)
+{
+    if (!d.declared())
+        return line;
+    QString out = line;
+    for (int i = 0; i < MaxReferencesPerValue && d.scene.parameterValue; ++i) {
+        const ChannelReference ref = findChannelReference(out);
+        if (ref.start < 0)
+            break;
+        const QString resolved = resolveParameterReference(ref.reference, d.path);
+        if (resolved.isEmpty())
+            break;
+        const QStringView node = referencedNode(resolved);
+        const QString value = d.scene.parameterValue(node, referencedParameter(resolved));
+        if (value.isNull())
+            break;
+        out.replace(ref.start, ref.length, expandNodeName(value, nodeName(node)));
+    }
+    return expandNodeName(unwrapVariableBackticks(out), nodeName(d.path));
+}
+
 // ---- the handlers ----------------------------------------------------------
 
 /// A picture, output or file parameter: the last accepted value wins, or goes
@@ -39,8 +77,8 @@ enum class Step {
 Step picture(Driver& d, const QString& line)
 {
     bool singleFile = false;
-    const bool accepted
-        = replaceImageOutVars(line, d.prependPicture, d.imagePath, d.scene.takeFound, singleFile);
+    const bool accepted = replaceImageOutVars(
+        nodeLocal(d, line), d.prependPicture, d.imagePath, d.scene.takeFound, singleFile);
     // An Alembic archive without a frame token holds the whole range in one file.
     if (d.marks(Renderer::Alembic) && accepted && singleFile)
         d.isSingleFile = true;
@@ -71,11 +109,40 @@ int intBefore(const QString& text, QChar stop)
     return QStringView(text).left(at < 0 ? text.size() : at).toInt();
 }
 
+/// A declared driver's "f" numbers written as channel references take the
+/// frame the node's ".chn" member gives them, where it gives one: the number
+/// in the reference is only the value Houdini last cached.
+void applyFrameChannels(Driver& d, const QString& value)
+{
+    if (!d.declared())
+        return;
+    int* const numbers[3] = { &d.frameStart, &d.frameEnd, &d.frameStep };
+    for (int channel = 1; channel <= 3; ++channel) {
+        if (!value.contains(QStringLiteral("f%1").arg(channel), Qt::CaseInsensitive))
+            continue;
+        const auto frame = frameFromExpression(
+            d.scene.section.channels.expression(channel), d.scene.frameStart, d.scene.frameEnd);
+        if (frame)
+            *numbers[channel - 1] = *frame;
+    }
+}
+
 /// "f" holds start, end and step, separated by tabs; start and end may be
 /// channel references "[ f1\t1 ]" and "[ f2\t240 ]".
 Step frameNumbers(Driver& d, const QString& line)
 {
     QString v = bracketValue(line);
+    if (d.declared()) {
+        // Any of the three may be keyed, not only the start with the end.
+        const QStringList numbers = withCachedValues(v).simplified().split(u' ');
+        if (numbers.size() >= 2) {
+            d.frameStart = numbers[0].toInt();
+            d.frameEnd = numbers[1].toInt();
+            d.frameStep = numbers.size() > 2 ? numbers[2].toInt() : 1;
+        }
+        applyFrameChannels(d, v);
+        return Step::Next;
+    }
     if (v.contains("f1"_L1, Qt::CaseInsensitive)) {
         dropThrough(v, u"f1", Qt::CaseInsensitive);
         v = v.trimmed();
@@ -148,8 +215,10 @@ Step camera(Driver& d, const QString& line)
     if (parameterLine::isChannelExpression(v))
         return Step::Next;
     d.proxyCamera = v.startsWith("proxy_export"_L1, Qt::CaseInsensitive);
+    // Houdini reads "/obj/cam1/" as the node; a declared driver's camera is a node path.
+    const QString node = d.declared() && v.size() > 1 && v.endsWith(u'/') ? v.chopped(1) : v;
     if (!d.proxyCamera)
-        d.scene.cameras.addDriver(_zkString8_allSize<150>(v), d.path);
+        d.scene.cameras.addDriver(_zkString8_allSize<150>(node), d.path);
     return Step::Next;
 }
 
@@ -185,7 +254,7 @@ Step lopLink(Driver& d, const QString& line)
 Step usdOutput(Driver& d, const QString& line)
 {
     bool singleFile = false;
-    if (replaceImageOutVars(line, false, d.exportPath, d.scene.takeFound, singleFile))
+    if (replaceImageOutVars(nodeLocal(d, line), false, d.exportPath, d.scene.takeFound, singleFile))
         d.isSingleFile = singleFile;
     d.marked |= bit(Renderer::Usd);
     d.exportMode = true;
@@ -230,8 +299,8 @@ Step filePerFrame(Driver& d, const QString& line)
 Step exportFile(Driver& d, const QString& line)
 {
     bool singleFile = false;
-    const bool accepted
-        = replaceImageOutVars(line, false, d.exportPath, d.scene.takeFound, singleFile);
+    const bool accepted = replaceImageOutVars(
+        nodeLocal(d, line), false, d.exportPath, d.scene.takeFound, singleFile);
     if (d.marks(Renderer::VRay) && accepted && singleFile)
         d.isSingleFile = true;
     return Step::Next;
@@ -318,6 +387,76 @@ Step abandon(Driver&, const QString&)
 bool ownFrameRange(const Driver& d)
 {
     return d.ownFrameRange;
+}
+
+// ---- File Cache paths -------------------------------------------------------
+
+/// The parameters a File Cache builds its constructed path from.
+const QLatin1String FileCacheKeywords[] = { "filemethod\t"_L1, "basedir\t"_L1, "basename\t"_L1,
+    "version\t"_L1, "enableversion\t"_L1, "timedependent\t"_L1, "filetype\t"_L1 };
+
+/// A File Cache parameter's value; one keyed to a channel, "[ version\t2 ]",
+/// gives the number Houdini cached there.
+QString fileCacheValue(const QString& line)
+{
+    QString value = unquotedBracketValue(line);
+    if (value.startsWith(u'[') && value.endsWith(u']')) {
+        const QStringView inside = QStringView(value).sliced(1, value.size() - 2).trimmed();
+        qsizetype blank = inside.size();
+        while (blank > 0 && !inside[blank - 1].isSpace())
+            --blank;
+        value = inside.mid(blank).toString();
+    }
+    return value;
+}
+
+void takeFileCacheLine(Driver& d, const sectionLoop::SectionLine& line)
+{
+    for (QLatin1String keyword : FileCacheKeywords) {
+        if (line.startsWith(keyword)) {
+            d.cache.take(QString(keyword.chopped(1)), fileCacheValue(line.text()));
+            return;
+        }
+    }
+}
+
+/// One part of a constructed path with its variables expanded, as the
+/// node's own expression expands each part before joining them; null when
+/// the part is refused (an unresolved reference).
+QString expandedFileCachePart(const Driver& d, zkJ::_JobBasics_largePath& job, const QString& part)
+{
+    const QString local = nodeLocal(d, part);
+    if (local.contains("chs("_L1))
+        return QString();
+    const QString expanded
+        = replaceHoudiniVariables(local, &job, d.scene.variables, d.scene.sceneFile);
+    return expanded.isNull() ? QStringLiteral("") : expanded;
+}
+
+/// A File Cache in constructed mode writes the path its parameters build;
+/// its "file" value is a stale default and never used then.
+void constructFileCachePath(Driver& d)
+{
+    if (d.type != "filecache"_L1 || !fileCacheConstructed(d.cache.filemethod))
+        return;
+    // The expansion reads the scene's folder, the node and its range from a
+    // job record; one stands in for the job the driver is about to make.
+    auto job = std::make_unique<zkJ::_JobBasics_largePath>();
+    job->sceneDatabaseDir.set(d.scene.databaseDir);
+    job->layer.set(d.path);
+    job->seqStart = d.frameStart;
+    job->seqEnd = d.frameEnd;
+    const QString path = composeFileCachePath(
+        d.cache, [&](const QString& part) { return expandedFileCachePart(d, *job, part); });
+    d.imagePath.clear();
+    d.isSingleFile = false;
+    // A LOP File Cache's "lopoutput" is the same path as an expression, not an export.
+    d.exportMode = false;
+    d.exportPath.clear();
+    if (path.isEmpty())
+        return;
+    // Through the picture rule, so that ".$F4" becomes the job's frame token.
+    picture(d, QStringLiteral("file\t[ 0 ]\t(\t\"") + path + QStringLiteral("\"\t)"));
 }
 
 // ---- the rule table --------------------------------------------------------
@@ -408,6 +547,9 @@ struct RuleIndex
                     byFirstByte[b].push_back(r);
             }
         }
+        // Only a File Cache's lines are read for them, ahead of the rules.
+        for (QLatin1String keyword : FileCacheKeywords)
+            starts.add(keyword);
     }
 
     static bool mayBegin(const Rule& rule, unsigned char b)
@@ -461,11 +603,16 @@ LoadResult readDriverSection(Scene& scene, LineSource& in, QString& line)
         return LoadOk;
 
     Driver d(scene);
-    d.path = driverPathOf(line);
+    d.path = sectionNodePath(scene, driverPathOf(line));
+    d.type = scene.section.type;
+    d.bypass = scene.section.bypass;
+    const bool fileCache = d.type == "filecache"_L1;
 
     static const RuleIndex index;
     const sectionLoop::SectionEnd end
         = sectionLoop::readSection(in, line, index.starts, [&](const sectionLoop::SectionLine& l) {
+              if (fileCache)
+                  takeFileCacheLine(d, l);
               for (const int r : index.byFirstByte[l.firstByte()]) {
                   const Rule& rule = Rules[r];
                   if (takes(rule, d, l))
@@ -475,5 +622,9 @@ LoadResult readDriverSection(Scene& scene, LineSource& in, QString& line)
           });
     if (end != sectionLoop::SectionEnd::Closed)
         return LoadOk;
+    constructFileCachePath(d);
+    // A USD ROP that writes only its USD file: the export job alone.
+    d.usdFileOnly = (d.type == "usd_rop"_L1 || d.type == "usd"_L1) && d.imagePath.isEmpty()
+        && !d.exportPath.isEmpty();
     return makeDriverJobs(d);
 }

@@ -10,6 +10,13 @@
 
 #include <QString>
 
+/// A declared node's path, else \p fromHeader (the path its header's
+/// network prefix gives).
+inline QString sectionNodePath(const Scene& scene, const QString& fromHeader)
+{
+    return scene.section.path.isEmpty() ? fromHeader : scene.section.path;
+}
+
 using SectionReader = LoadResult (*)(Scene& scene, LineSource& in, QString& header);
 
 LoadResult readWedgeSection(Scene& scene, LineSource& in, QString& header);

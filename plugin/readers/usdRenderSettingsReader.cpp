@@ -48,7 +48,7 @@ QString settingValue(const QString& line)
 LoadResult readRenderSettingsSection(Scene& scene, LineSource& in, QString& line)
 {
     RenderSettingsNode node;
-    node.nodePath = nodePathStage(line);
+    node.nodePath = sectionNodePath(scene, nodePathStage(line));
 
     static const sectionLoop::KeywordStarts starts = [] {
         sectionLoop::KeywordStarts s;

@@ -89,7 +89,7 @@ bool isListed(WedgeNode& wedge)
 LoadResult readWedgeSection(Scene& scene, LineSource& in, QString& line)
 {
     WedgeNode wedge;
-    wedge.nodePath = nodePathOutObj(line);
+    wedge.nodePath = sectionNodePath(scene, nodePathOutObj(line));
     bool invalid = false;
 
     static const QLatin1String prefix("prefix\t");

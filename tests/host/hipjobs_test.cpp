@@ -69,6 +69,9 @@ TEST(Hipjobs, ExitStatusesAndOutput)
         { { QStringLiteral("--info"), QStringLiteral("--json") }, 0, "\"structureID\":45061",
             nullptr },
         { { QStringLiteral("--json"), Example }, 0, "\"resultText\":\"success\"", nullptr },
+        { { QStringLiteral("--dot"), Example }, 0, "digraph jobs {\n", nullptr },
+        { { QStringLiteral("--dot"), QStringLiteral("--summary"), Example }, 2, "",
+            "--dot prints" },
     };
     for (const auto& row : rows) {
         const QString command = row.args.join(u' ');

@@ -93,6 +93,12 @@ struct FieldCheck
     std::string value;
 };
 
+/// An archive member: its header line, then \p body after the name's NUL.
+QByteArray member(const QByteArray& name, const QByteArray& body)
+{
+    return "070707" + QByteArray(70, '0') + name + '\0' + body;
+}
+
 struct HostileClass
 {
     const char* name;
@@ -190,6 +196,27 @@ const HostileClass Classes[] = {
         // 4993 "ab" went in front of the 14 units of the first path, to
         // 10000 units; the job's field keeps the first 1000.
         { { 0, "imageFileName", QByteArray("ab").repeated(500).toStdString() } } },
+    { "100,000 declared File SOPs: those past the node table's limit go by their names",
+        [] {
+            return repeated(100000, [](int i) {
+                const QByteArray node = "obj/geo/file" + number(i);
+                return member(node + ".init", "type = file\n") + member(node + ".parm", "{\n")
+                    + parm("file", "\"/g/" + number(i) + ".bgeo\"") + "}\n";
+            });
+        },
+        1, 251, "nodes=65536", { { 0, "layer", "/obj/geo/file65536" } } },
+    { "10,000 channel references to a 1.6 MB section read earlier",
+        [] {
+            return member("obj/a.init", "type = null\n") + member("obj/a.parm", "{\n")
+                + repeated(100000, [](int) { return parm("x", "0"); }) + parm("p", "\"/r/a\"")
+                + "}\n" + member("out/m1.init", "type = ifd\n") + member("out/m1.parm", "{\n")
+                + repeated(10000,
+                    [](int) { return parm("vm_picture", "\"`chs('/obj/a/p')`/i.$F4.exr\""); })
+                + "}\n";
+        },
+        // Resolved until the load's re-reading budget ran out; the unresolved
+        // rest is refused, so the last resolved value stays.
+        1, 1, "", { { 0, "imageDir", "/r/a/" } } },
     { "a 2.5 MB parameter line whose name is a run of one letter, as is its value",
         [] {
             return driver("m1",

@@ -57,6 +57,26 @@ TEST(LineSource, LinesAcrossChunkBoundariesStayWhole)
     EXPECT_EQ(readAll(text), expected);
 }
 
+// A reader that comes back to a passed line seeks to its offset: that must
+// never lie after the line ("\r" removal shifts the buffer against the file)
+// nor more than a chunk before it, so the line is found again close by.
+TEST(LineSource, LineOffsetsLeadBackToTheirLines)
+{
+    QByteArray text;
+    std::vector<qint64> offsets;
+    for (int i = 0; text.size() < 3 * LineSource::ChunkBytes; ++i) {
+        offsets.push_back(text.size());
+        text += QByteArray(i % 700, 'x') + QByteArray::number(i) + (i % 3 ? "\r\n" : "\r\r\n");
+    }
+    zkTest::TextLines lines(text);
+    QByteArrayView raw;
+    for (size_t i = 0; lines.source.nextRaw(raw); ++i) {
+        ASSERT_LT(i, offsets.size());
+        EXPECT_LE(lines.source.lineOffset(), offsets[i]) << i;
+        EXPECT_GT(lines.source.lineOffset(), offsets[i] - LineSource::ChunkBytes) << i;
+    }
+}
+
 TEST(LineSource, NothingAfterTheLastLine)
 {
     zkTest::TextLines lines("one\ntwo\n");

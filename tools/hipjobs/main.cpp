@@ -1,6 +1,6 @@
 // hipjobs: loads the scene parser plugin the way the render-queue manager
 // does (dlopen, entry points resolved by name, host-built records) and prints
-// the jobs of scenes, as tables, JSON Lines or a summary.
+// the jobs of scenes, as tables, JSON Lines, a summary or a Graphviz graph.
 //
 // The job array is built from its documented binary layout (tools/host), not
 // with the plugin's constructor: the tool must see exactly what a host sees,
@@ -14,6 +14,7 @@
 #include "tools/hipjobs/sceneList.h"
 #include "tools/hipjobs/summary.h"
 #include "tools/host/hostRecords.h"
+#include "tools/host/jobGraph.h"
 #include "tools/host/jobJson.h"
 
 #include <QCommandLineParser>
@@ -340,6 +341,7 @@ struct Options
     bool vars = false;
     bool info = false;
     bool summary = false;
+    bool dot = false;
     bool quiet = false;
     bool recurse = true;
     bool version = false;
@@ -380,6 +382,10 @@ std::optional<int> parseOptions(Options& options)
         QStringLiteral("Print one line per scene (result, jobs, frames, takes, wedge variants, "
                        "waits, renderers) and a total; with --json, one summary object per "
                        "scene and a total object."));
+    const QCommandLineOption dotOption(QStringLiteral("dot"),
+        QStringLiteral("Print the jobs of each scene as a Graphviz DOT graph (a node per job, "
+                       "an edge from each job to the jobs that wait for it, takes and wedge "
+                       "variants as clusters), ready for \"dot -Tsvg\"."));
     const QCommandLineOption noRecurseOption(QStringLiteral("no-recurse"),
         QStringLiteral("Search a folder given as PATH without its subfolders."));
     const QCommandLineOption quietOption({ QStringLiteral("q"), QStringLiteral("quiet") },
@@ -391,8 +397,8 @@ std::optional<int> parseOptions(Options& options)
                        "/%1 beside this program, else ../lib/%1).")
             .arg(QLatin1String(PluginFileName)),
         QStringLiteral("path"));
-    parser.addOptions({ versionOption, jsonOption, varsOption, summaryOption, noRecurseOption,
-        quietOption, infoOption, pluginOption });
+    parser.addOptions({ versionOption, jsonOption, varsOption, summaryOption, dotOption,
+        noRecurseOption, quietOption, infoOption, pluginOption });
     parser.addPositionalArgument(QStringLiteral("paths"),
         QStringLiteral("Scene files, and folders searched for *.hip, *.hipnc and *.hiplc."),
         QStringLiteral("PATH..."));
@@ -412,6 +418,12 @@ std::optional<int> parseOptions(Options& options)
     options.vars = parser.isSet(varsOption);
     options.info = parser.isSet(infoOption);
     options.summary = parser.isSet(summaryOption);
+    options.dot = parser.isSet(dotOption);
+    if (options.dot && (options.json || options.vars || options.summary)) {
+        printError(QStringLiteral("--dot prints a graph: it goes with none of --json, --vars "
+                                  "and --summary"));
+        return ExitUsage;
+    }
     options.quiet = parser.isSet(quietOption);
     options.recurse = !parser.isSet(noRecurseOption);
     options.version = parser.isSet(versionOption);
@@ -457,6 +469,8 @@ int runScene(const Plugin& plugin, const Options& options, const QString& scene,
         summaries.append(summarize(jobs, result, scene));
         if (options.json)
             printJsonLine(summaryJson(summaries.last()));
+    } else if (options.dot) {
+        printOut(jobGraphDot(graphJobs(jobs), scene).toUtf8());
     } else if (options.json) {
         printJsonLine(loadJson(jobs, result, scene, options.vars));
     } else if (options.vars) {
@@ -516,7 +530,7 @@ int run(const Options& options)
         const int sceneStatus = result < 0 ? ExitResultOutOfRange : exitStatusForResult(result);
         if (status == ExitOk)
             status = sceneStatus;
-        if (!options.summary && !options.json && i + 1 < scenes.size())
+        if (!options.summary && !options.json && !options.dot && i + 1 < scenes.size())
             printOut("\n");
     }
     progress.clear();
