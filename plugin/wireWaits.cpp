@@ -11,19 +11,6 @@
 
 namespace {
 
-/// The member path of the node that made job \p index ("out/mantra1"); a
-/// reader that names no node left it as the job's layer ("/out/mantra1").
-QString memberPathOf(Scene& scene, const zkJ::_JobBasics_largePath& job, int index)
-{
-    const QString& named = scene.noteOf(index).driverNode;
-    if (!named.isEmpty())
-        return named;
-    QString layer = job.layer.toQString();
-    if (layer.startsWith(u'/'))
-        layer.remove(0, 1);
-    return layer;
-}
-
 bool waitsFor(const zkJ::_JobBasics_largePath& job, unsigned char preID)
 {
     const int n = std::min<int>(job.waitForPreIDCount, int(sizeof(job.waitForPreIDs)));
@@ -41,8 +28,8 @@ LoadResult waitForWiredDrivers(Scene& scene)
     // The last job of each driver is the one waited for: the render job of
     // an export pair, which itself waits for the export.
     QHash<QString, int> lastJobOf;
-    const LoadResult listed = forEachJob(jobs, [&](const zkJ::_JobBasics_largePath& job, int j) {
-        nodeOfJob.push_back(memberPathOf(scene, job, j));
+    const LoadResult listed = forEachJob(jobs, [&](const zkJ::_JobBasics_largePath&, int j) {
+        nodeOfJob.push_back(scene.noteOf(j).driverNode);
         lastJobOf.insert(nodeOfJob.back(), j);
         return LoadOk;
     });

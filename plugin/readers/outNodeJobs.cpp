@@ -221,6 +221,7 @@ LoadResult makeDriverJobs(Driver& d)
     const int firstIndex = jobs.count - 1;
     JobNote& note = scene.noteOf(firstIndex);
     note = JobNote();
+    note.driverNode = d.path.mid(1);
 
     job->renderApp.appName.set(appNameHoudini);
     job->sceneDatabaseDir.set(scene.databaseDir);

@@ -25,6 +25,7 @@ TEST(WireWaits, ExportFirstThenWiresInsideTheTake)
         zkJ::_JobBasics_largePath* job = appendJob(jobs);
         job->layer.set(QString::fromLatin1(layer));
         job->preID = static_cast<unsigned char>(jobs.count);
+        scene.noteOf(jobs.count - 1).driverNode = QString::fromLatin1(layer + 1);
     }
     jobs.records[2].addWaitForPreID(2);
     scene.noteOf(3).take = QStringLiteral("t1");
