@@ -4,7 +4,9 @@
 
 NodeEntry* NodeTable::find(QStringView path)
 {
-    const auto it = index.constFind(path.toString());
+    // Every member header is looked up: a key over the caller's characters
+    // spares a copy of the path each time.
+    const auto it = index.constFind(QString::fromRawData(path.data(), path.size()));
     return it == index.cend() ? nullptr : &entries[std::size_t(*it)];
 }
 

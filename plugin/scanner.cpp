@@ -175,6 +175,11 @@ qsizetype findSaveVersion(QStringView line)
     for (qsizetype at = line.indexOf(u'_'); at >= 0; at = line.indexOf(u'_', at + 1)) {
         if (line.size() - at < key.size())
             return -1;
+        // Node paths hold many '_'; only 'h' and 'H' fold to the next
+        // character, so that test spares most full comparisons.
+        const char16_t next = line[at + 1].unicode();
+        if (next != u'h' && next != u'H')
+            continue;
         if (line.mid(at, key.size()).compare(key, Qt::CaseInsensitive) == 0)
             return at;
     }

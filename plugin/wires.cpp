@@ -115,7 +115,8 @@ bool WireGraph::keptType(QStringView type)
 
 const WireNode* WireGraph::find(QStringView path) const
 {
-    const auto it = index.constFind(path.toString());
+    // A key over the caller's characters: no copy of the path per lookup.
+    const auto it = index.constFind(QString::fromRawData(path.data(), path.size()));
     return it == index.cend() ? nullptr : &nodes[std::size_t(*it)];
 }
 
