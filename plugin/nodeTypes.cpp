@@ -1,7 +1,8 @@
 #include "plugin/nodeTypes.h"
 
+#include "plugin/textSearch.h"
+
 #include <array>
-#include <string_view>
 
 namespace {
 
@@ -260,10 +261,7 @@ bool readFlagsLine(QStringView line, bool& bypass)
 {
     if (!line.startsWith(u"flags ="))
         return false;
-    // A plain search: Qt's substring search costs more to set up than this
-    // line of a few hundred characters takes to walk.
-    bypass = std::u16string_view(line.utf16(), size_t(line.size())).find(u" bypass on")
-        != std::u16string_view::npos;
+    bypass = containsShort(line, u" bypass on");
     return true;
 }
 

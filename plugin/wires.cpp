@@ -3,6 +3,7 @@
 #include "plugin/nodeTypes.h"
 #include "plugin/parameterLine.h"
 #include "plugin/paths/nodeReferences.h"
+#include "plugin/textSearch.h"
 
 #include <QSet>
 
@@ -64,7 +65,7 @@ std::optional<InputEntry> inputEntry(QStringView line)
 
 bool displayFlagOn(QStringView line)
 {
-    return line.startsWith(u"flags =") && line.contains(u" display on");
+    return line.startsWith(u"flags =") && containsShort(line, u" display on");
 }
 
 QString fetchSourceValue(QStringView line)
