@@ -12,7 +12,9 @@ constexpr qsizetype HouDigits = 28;
 // longer run before a NUL is binary data that happens to follow a magic.
 constexpr qsizetype MaxMemberName = 4096;
 
-bool allOf(QStringView text, bool (*accept)(char16_t))
+// Each member header's digits are checked: a template lets the test inline.
+template <typename Accept>
+bool allOf(QStringView text, Accept accept)
 {
     for (const QChar c : text)
         if (!accept(c.unicode()))
@@ -52,7 +54,9 @@ constexpr std::array<Suffix, 4> MemberSuffixes { {
 std::optional<NodeMember> memberOfName(QStringView name, QStringView& path)
 {
     for (const Suffix& s : MemberSuffixes) {
-        if (name.size() > s.text.size() && name.endsWith(s.text)) {
+        // The last character tells the suffixes apart before any comparison.
+        if (name.size() > s.text.size() && name.back() == s.text.back()
+            && name.right(s.text.size()) == s.text) {
             path = name.chopped(s.text.size());
             return s.member;
         }
@@ -64,12 +68,17 @@ std::optional<NodeMember> memberOfName(QStringView name, QStringView& path)
 /// the digits after the magic are not a header's.
 qsizetype nameStart(QStringView line, qsizetype magic)
 {
-    if (line.mid(magic).startsWith(u"070707")) {
+    // Called at a magic: only the cpio one starts with '0'.
+    if (line[magic] == u'0') {
         const QStringView digits = line.mid(magic + 6, CpioDigits);
-        return digits.size() == CpioDigits && allOf(digits, isOctal) ? magic + 6 + CpioDigits : -1;
+        return digits.size() == CpioDigits && allOf(digits, [](char16_t c) { return isOctal(c); })
+            ? magic + 6 + CpioDigits
+            : -1;
     }
     const QStringView digits = line.mid(magic + 6, HouDigits);
-    return digits.size() == HouDigits && allOf(digits, isHex) ? magic + 6 + HouDigits : -1;
+    return digits.size() == HouDigits && allOf(digits, [](char16_t c) { return isHex(c); })
+        ? magic + 6 + HouDigits
+        : -1;
 }
 
 // Types that write a file or a picture wherever they sit.
