@@ -4,8 +4,15 @@
 
 NodeEntry* NodeTable::find(QStringView path)
 {
-    const auto it = index.constFind(path.toString());
-    return it == index.cend() ? nullptr : &entries[std::size_t(*it)];
+    if (lastFound >= 0 && entries[std::size_t(lastFound)].path == path)
+        return &entries[std::size_t(lastFound)];
+    // Every member header is looked up: a key over the caller's characters
+    // spares a copy of the path each time.
+    const auto it = index.constFind(QString::fromRawData(path.data(), path.size()));
+    if (it == index.cend())
+        return nullptr;
+    lastFound = *it;
+    return &entries[std::size_t(lastFound)];
 }
 
 const NodeEntry* NodeTable::find(QStringView path) const

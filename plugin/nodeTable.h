@@ -59,6 +59,10 @@ public:
 private:
     std::vector<NodeEntry> entries;
     QHash<QString, qsizetype> index;
+    /// The entry found last: a node's members follow one another, so most
+    /// lookups ask for it again, and in a table of tens of thousands of nodes
+    /// its hash bucket is seldom still in the cache.
+    mutable qsizetype lastFound = -1;
     qsizetype pathUnits = 0;
     bool full = false;
 };

@@ -1,7 +1,8 @@
 #include "plugin/nodeTypes.h"
 
+#include "plugin/textSearch.h"
+
 #include <array>
-#include <string_view>
 
 namespace {
 
@@ -11,7 +12,9 @@ constexpr qsizetype HouDigits = 28;
 // longer run before a NUL is binary data that happens to follow a magic.
 constexpr qsizetype MaxMemberName = 4096;
 
-bool allOf(QStringView text, bool (*accept)(char16_t))
+// Each member header's digits are checked: a template lets the test inline.
+template <typename Accept>
+bool allOf(QStringView text, Accept accept)
 {
     for (const QChar c : text)
         if (!accept(c.unicode()))
@@ -51,7 +54,9 @@ constexpr std::array<Suffix, 4> MemberSuffixes { {
 std::optional<NodeMember> memberOfName(QStringView name, QStringView& path)
 {
     for (const Suffix& s : MemberSuffixes) {
-        if (name.size() > s.text.size() && name.endsWith(s.text)) {
+        // The last character tells the suffixes apart before any comparison.
+        if (name.size() > s.text.size() && name.back() == s.text.back()
+            && name.right(s.text.size()) == s.text) {
             path = name.chopped(s.text.size());
             return s.member;
         }
@@ -63,12 +68,17 @@ std::optional<NodeMember> memberOfName(QStringView name, QStringView& path)
 /// the digits after the magic are not a header's.
 qsizetype nameStart(QStringView line, qsizetype magic)
 {
-    if (line.mid(magic).startsWith(u"070707")) {
+    // Called at a magic: only the cpio one starts with '0'.
+    if (line[magic] == u'0') {
         const QStringView digits = line.mid(magic + 6, CpioDigits);
-        return digits.size() == CpioDigits && allOf(digits, isOctal) ? magic + 6 + CpioDigits : -1;
+        return digits.size() == CpioDigits && allOf(digits, [](char16_t c) { return isOctal(c); })
+            ? magic + 6 + CpioDigits
+            : -1;
     }
     const QStringView digits = line.mid(magic + 6, HouDigits);
-    return digits.size() == HouDigits && allOf(digits, isHex) ? magic + 6 + HouDigits : -1;
+    return digits.size() == HouDigits && allOf(digits, [](char16_t c) { return isHex(c); })
+        ? magic + 6 + HouDigits
+        : -1;
 }
 
 // Types that write a file or a picture wherever they sit.
@@ -129,21 +139,35 @@ bool listed(const std::array<QStringView, N>& list, QStringView type)
 
 namespace {
 
-/// The next \p magic in \p line at or after \p from, or -1. Most lines the
-/// scan hands over are short member headers, where a substring search costs
-/// more to set up than a walk over the magic's first character.
-qsizetype findMagic(QStringView line, QStringView magic, qsizetype from)
+/// Whether one of the three magics starts at \p at. The scan hands over
+/// short header lines and long ones with binary members before a header; one
+/// walk that tests each '0' and 'H' is cheaper on both than a substring
+/// search per magic, whose set-up the short lines never pay back.
+bool magicAt(const char16_t* c, qsizetype size, qsizetype at)
 {
-    // A long line is binary data before a header: there the substring
-    // search pays for its set-up, and the walk would stop at many a '0'.
-    if (line.size() - from > 256)
-        return line.indexOf(magic, from);
-    for (qsizetype at = line.indexOf(magic.front(), from); at >= 0;
-         at = line.indexOf(magic.front(), at + 1)) {
-        if (line.mid(at).startsWith(magic))
-            return at;
+    if (size - at < 6)
+        return false;
+    if (c[at] == u'0')
+        return c[at + 1] == u'7' && c[at + 2] == u'0' && c[at + 3] == u'7' && c[at + 4] == u'0'
+            && c[at + 5] == u'7';
+    return c[at] == u'H' && c[at + 1] == u'o' && c[at + 2] == u'u'
+        && (c[at + 3] == u'N' || c[at + 3] == u'L') && c[at + 4] == u'C' && c[at + 5] == u'\x1a';
+}
+
+/// Whether \p text holds a 0x1a or "0707", the tell-tale bytes of a further
+/// header. One walk: the rest of a header line is mostly a short ".init" or
+/// ".def" line, where two of Qt's searches cost more to set up than this.
+bool mayHoldMagic(QStringView text)
+{
+    const char16_t* c = text.utf16();
+    const qsizetype n = text.size();
+    for (qsizetype i = 0; i < n; ++i) {
+        if (c[i] == u'\x1a')
+            return true;
+        if (c[i] == u'0' && i + 3 < n && c[i + 1] == u'7' && c[i + 2] == u'0' && c[i + 3] == u'7')
+            return true;
     }
-    return -1;
+    return false;
 }
 
 } // namespace
@@ -165,7 +189,7 @@ std::optional<MemberHeader> archiveMemberHeader(QStringView line)
             break;
         const QStringView rest = line.mid(end + 1);
         // Too short a rest holds no further header.
-        if (rest.size() >= 6 + HouDigits && (rest.contains(u'\x1a') || rest.contains(u"0707")))
+        if (rest.size() >= 6 + HouDigits && mayHoldMagic(rest))
             break;
         // The header of another member (".spareparmdef", ".userdata"): none
         // of the scan's.
@@ -177,20 +201,13 @@ std::optional<MemberHeader> archiveMemberHeader(QStringView line)
         header.rest = rest;
         return header;
     }
-    qsizetype next[3];
-    for (int m = 0; m < 3; ++m)
-        next[m] = findMagic(line, Magics[m], 0);
+    const char16_t* const c = line.utf16();
+    const qsizetype size = line.size();
     qsizetype nul = -1;
     std::optional<MemberHeader> last;
-    for (;;) {
-        int m = -1;
-        for (int k = 0; k < 3; ++k)
-            if (next[k] >= 0 && (m < 0 || next[k] < next[m]))
-                m = k;
-        if (m < 0)
-            return last;
-        const qsizetype magic = next[m];
-        next[m] = findMagic(line, Magics[m], magic + 1);
+    for (qsizetype magic = 0; magic + 6 <= size; ++magic) {
+        if (!magicAt(c, size, magic))
+            continue;
         const qsizetype start = nameStart(line, magic);
         if (start < 0)
             continue;
@@ -207,6 +224,7 @@ std::optional<MemberHeader> archiveMemberHeader(QStringView line)
             last = header;
         }
     }
+    return last;
 }
 
 std::optional<MemberHeader> mimeMemberHeader(QStringView line)
@@ -252,10 +270,7 @@ bool readFlagsLine(QStringView line, bool& bypass)
 {
     if (!line.startsWith(u"flags ="))
         return false;
-    // A plain search: Qt's substring search costs more to set up than this
-    // line of a few hundred characters takes to walk.
-    bypass = std::u16string_view(line.utf16(), size_t(line.size())).find(u" bypass on")
-        != std::u16string_view::npos;
+    bypass = containsShort(line, u" bypass on");
     return true;
 }
 

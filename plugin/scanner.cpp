@@ -169,6 +169,11 @@ qsizetype findSaveVersion(QStringView line)
     for (qsizetype at = line.indexOf(u'_'); at >= 0; at = line.indexOf(u'_', at + 1)) {
         if (line.size() - at < key.size())
             return -1;
+        // Node paths hold many '_'; only 'h' and 'H' fold to the next
+        // character, so that test spares most full comparisons.
+        const char16_t next = line[at + 1].unicode();
+        if (next != u'h' && next != u'H')
+            continue;
         if (line.mid(at, key.size()).compare(key, Qt::CaseInsensitive) == 0)
             return at;
     }
@@ -364,9 +369,19 @@ constexpr int MaxMimePreamble = 4;
 /// Whether \p line starts a member of the archive or a MIME part.
 bool startsMember(QStringView line)
 {
-    if (line.startsWith(u"--") || line.startsWith(u"Content-Disposition:"))
+    // Asked of every line read inside a member: its first character rules
+    // out the MIME forms, and a plain walk for a NUL the archive forms.
+    if (line.isEmpty())
+        return false;
+    const char16_t first = line.front().unicode();
+    if ((first == u'-' && line.startsWith(u"--"))
+        || (first == u'C' && line.startsWith(u"Content-Disposition:")))
         return true;
-    return line.contains(QChar(0)) && archiveMemberHeader(line).has_value();
+    const char16_t* c = line.utf16();
+    const char16_t* const end = c + line.size();
+    while (c != end && *c != 0)
+        ++c;
+    return c != end && archiveMemberHeader(line).has_value();
 }
 
 /// The ".def" lines the scan reads: the flags line, the "inputs" block (its

@@ -3,6 +3,7 @@
 #include "plugin/nodeTypes.h"
 #include "plugin/parameterLine.h"
 #include "plugin/paths/nodeReferences.h"
+#include "plugin/textSearch.h"
 
 #include <QSet>
 
@@ -64,7 +65,7 @@ std::optional<InputEntry> inputEntry(QStringView line)
 
 bool displayFlagOn(QStringView line)
 {
-    return line.startsWith(u"flags =") && line.contains(u" display on");
+    return line.startsWith(u"flags =") && containsShort(line, u" display on");
 }
 
 QString fetchSourceValue(QStringView line)
@@ -115,7 +116,8 @@ bool WireGraph::keptType(QStringView type)
 
 const WireNode* WireGraph::find(QStringView path) const
 {
-    const auto it = index.constFind(path.toString());
+    // A key over the caller's characters: no copy of the path per lookup.
+    const auto it = index.constFind(QString::fromRawData(path.data(), path.size()));
     return it == index.cend() ? nullptr : &nodes[std::size_t(*it)];
 }
 

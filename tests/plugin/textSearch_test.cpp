@@ -38,4 +38,15 @@ TEST(LinearSearch, RemoveAllLeavesWhatQtLeaves)
     }
 }
 
+TEST(LinearSearch, ContainsShortAgreesWithQt)
+{
+    // Needle at either end, cut off by the end, its second character first.
+    for (const char* text : { " bypass on", "x bypass on", "x bypass o", "bypass on bypass",
+             "b bypass off", " b", "", "flags =  xray off bypass on display off" }) {
+        const QString t = QString::fromLatin1(text);
+        for (const QStringView needle : { QStringView(u" bypass on"), QStringView(u" display on") })
+            EXPECT_EQ(containsShort(t, needle), t.contains(needle)) << text;
+    }
+}
+
 } // namespace
