@@ -455,6 +455,22 @@ int main(int argc, char** argv)
                     + ".parm {\nxn__redshiftglobalRS_archive_fileName\t[ 0\tlocks=0 ]\t(\t"
                       "\"/r/a.rs\"\t)\n}\n";
             } },
+        // Archive members as real scenes write them: a cpio header line, the
+        // member's name, a NUL and its first line.
+        { "init-flood", 1000000,
+            [](qint64 i) {
+                return "070707" + QByteArray(70, '0') + "obj/geo/file" + QByteArray::number(i)
+                    + ".init" + '\0' + "type = file\n";
+            } },
+        { "inputs-flood", 500000,
+            [](qint64 i) {
+                const QByteArray name = "obj/geo/merge" + QByteArray::number(i);
+                return "070707" + QByteArray(70, '0') + name + ".init" + '\0' + "type = merge\n"
+                    + "070707" + QByteArray(70, '0') + name + ".def" + '\0'
+                    + "comment \"\"\nflags =  bypass off display on\ninputs\n{\n0 \tmerge"
+                    + QByteArray::number(i + 1) + " 0 1\n1 \tmerge" + QByteArray::number(i + 2)
+                    + " 0 1\n}\nend\n";
+            } },
     };
     const qint64 floodMb = floodMegabytes();
     for (const auto& f : floods) {
