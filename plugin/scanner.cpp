@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -366,17 +367,22 @@ Then takeSection(QStringView line, ScanStep& step)
 /// line and an empty line in real scenes.
 constexpr int MaxMimePreamble = 4;
 
-/// Whether \p line starts a member of the archive or a MIME part.
-bool startsMember(QStringView line)
+/// Whether \p line starts a member of the archive or a MIME part; \p raw,
+/// when given, is the line's undecoded bytes.
+bool startsMember(QStringView line, std::optional<QByteArrayView> raw = std::nullopt)
 {
     // Asked of every line read inside a member: its first character rules
-    // out the MIME forms, and a plain walk for a NUL the archive forms.
+    // out the MIME forms, and a NUL, which only a NUL byte decodes to, the
+    // archive forms. The bytes are searched a word at a time, half as many
+    // as the decoded text's.
     if (line.isEmpty())
         return false;
     const char16_t first = line.front().unicode();
     if ((first == u'-' && line.startsWith(u"--"))
         || (first == u'C' && line.startsWith(u"Content-Disposition:")))
         return true;
+    if (raw && !raw->contains('\0'))
+        return false;
     const char16_t* c = line.utf16();
     const char16_t* const end = c + line.size();
     while (c != end && *c != 0)
@@ -400,6 +406,22 @@ const LineSource::Marks& defMarks()
         return m;
     }();
     return marks;
+}
+
+/// Whether the raw line \p raw reads "end" once decoded and trimmed, told
+/// without decoding it: every ".def" member ends in one, and the line needs
+/// no string of its own. A line with other bytes around "end" than ASCII
+/// blanks is not taken here; it is decoded as any other.
+bool isEndLine(QByteArrayView raw)
+{
+    const auto blank = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
+    qsizetype from = 0;
+    qsizetype to = raw.size();
+    while (from < to && blank(raw[from]))
+        ++from;
+    while (to > from && blank(raw[to - 1]))
+        --to;
+    return raw.sliced(from, to - from) == QByteArrayView("end");
 }
 
 /// Reads the body of a member the scan reads whole (".def", ".chn", a MIME
@@ -483,8 +505,10 @@ void readDefMember(const MemberHeader& member, bool mime, ScanStep& step)
     QByteArrayView raw;
     if (mime || feed(member.rest.trimmed())) {
         while (inInputs ? step.in.nextRaw(raw) : step.in.nextMarked(raw, defMarks())) {
+            if (isEndLine(raw))
+                break;
             QString text = LineSource::decode(raw);
-            if (startsMember(text)) {
+            if (startsMember(text, raw)) {
                 step.pending = std::move(text);
                 break;
             }
