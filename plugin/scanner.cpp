@@ -312,6 +312,9 @@ struct ScanStep
     FrameChannelReader channels;
     /// Bytes read again for channel references so far.
     qint64 rereadBytes = 0;
+    /// The undecoded bytes of the line the rules look at, while no reader
+    /// has read past it; none for a line left over by a member's reading.
+    std::optional<QByteArrayView> raw;
 };
 
 Then takeFrameRange(QStringView line, ScanStep& step)
@@ -324,9 +327,28 @@ Then takeFrameRange(QStringView line, ScanStep& step)
     return Then::NextRule;
 }
 
+/// Whether \p raw holds '_' followed by 'h' or 'H', as a line holding
+/// "_HIP_SAVEVERSION" in any case must: both are ASCII, so they stand side
+/// by side in the bytes as in the text. A byte search per '_' is cheaper
+/// than Qt's per '_' of the decoded text, and member headers hold several.
+bool mayHoldSaveVersion(QByteArrayView raw)
+{
+    const char* const begin = raw.data();
+    const char* const end = begin + raw.size();
+    for (const char* c = begin; c != end;) {
+        const void* found = std::memchr(c, '_', size_t(end - c));
+        if (!found)
+            return false;
+        c = static_cast<const char*>(found) + 1;
+        if (c != end && (*c == 'h' || *c == 'H'))
+            return true;
+    }
+    return false;
+}
+
 Then takeSaveVersion(QStringView line, ScanStep& step)
 {
-    if (findSaveVersion(line) < 0)
+    if ((step.raw && !mayHoldSaveVersion(*step.raw)) || findSaveVersion(line) < 0)
         return Then::NextRule;
     readSaveVersion(line, step.scene);
     return Then::LineDone;
@@ -702,7 +724,8 @@ QString referencedValue(ScanStep& step, QStringView nodePath, QStringView parame
 Then takeMember(QStringView line, ScanStep& step)
 {
     std::optional<MemberHeader> member;
-    const bool mime = !line.contains(QChar(0));
+    // A NUL in the text comes from a NUL byte only.
+    const bool mime = step.raw ? !step.raw->contains('\0') : !line.contains(QChar(0));
     if (!mime)
         member = archiveMemberHeader(line);
     else if (line.front() == u'C')
@@ -831,19 +854,22 @@ LoadResult scanScene(Scene& scene, LineSource& in, const SectionReaders& readers
 
     static const LineSource::Marks marks = ruleMarks();
     QString header;
-    ScanStep step { scene, in, readers, header, LoadOk, {}, {}, {}, 0 };
+    ScanStep step { scene, in, readers, header, LoadOk, {}, {}, {}, 0, {} };
     scene.parameterValue = [&step](QStringView node, QStringView parameter) {
         return referencedValue(step, node, parameter);
     };
     QByteArrayView raw;
     for (;;) {
         QString text;
-        if (!step.pending.isNull())
+        step.raw.reset();
+        if (!step.pending.isNull()) {
             std::swap(text, step.pending);
-        else if (mode == ScanMode::EveryLine ? in.nextRaw(raw) : in.nextMarked(raw, marks))
+        } else if (mode == ScanMode::EveryLine ? in.nextRaw(raw) : in.nextMarked(raw, marks)) {
             text = LineSource::decode(raw);
-        else
+            step.raw = raw;
+        } else {
             break;
+        }
         if (text.isEmpty() || text.front() == u'#')
             continue;
         if (applyRules(text, step) == Then::StopScan)
