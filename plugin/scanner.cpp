@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -311,6 +312,9 @@ struct ScanStep
     FrameChannelReader channels;
     /// Bytes read again for channel references so far.
     qint64 rereadBytes = 0;
+    /// The undecoded bytes of the line the rules look at, while no reader
+    /// has read past it; none for a line left over by a member's reading.
+    std::optional<QByteArrayView> raw;
 };
 
 Then takeFrameRange(QStringView line, ScanStep& step)
@@ -323,9 +327,28 @@ Then takeFrameRange(QStringView line, ScanStep& step)
     return Then::NextRule;
 }
 
+/// Whether \p raw holds '_' followed by 'h' or 'H', as a line holding
+/// "_HIP_SAVEVERSION" in any case must: both are ASCII, so they stand side
+/// by side in the bytes as in the text. A byte search per '_' is cheaper
+/// than Qt's per '_' of the decoded text, and member headers hold several.
+bool mayHoldSaveVersion(QByteArrayView raw)
+{
+    const char* const begin = raw.data();
+    const char* const end = begin + raw.size();
+    for (const char* c = begin; c != end;) {
+        const void* found = std::memchr(c, '_', size_t(end - c));
+        if (!found)
+            return false;
+        c = static_cast<const char*>(found) + 1;
+        if (c != end && (*c == 'h' || *c == 'H'))
+            return true;
+    }
+    return false;
+}
+
 Then takeSaveVersion(QStringView line, ScanStep& step)
 {
-    if (findSaveVersion(line) < 0)
+    if ((step.raw && !mayHoldSaveVersion(*step.raw)) || findSaveVersion(line) < 0)
         return Then::NextRule;
     readSaveVersion(line, step.scene);
     return Then::LineDone;
@@ -366,17 +389,22 @@ Then takeSection(QStringView line, ScanStep& step)
 /// line and an empty line in real scenes.
 constexpr int MaxMimePreamble = 4;
 
-/// Whether \p line starts a member of the archive or a MIME part.
-bool startsMember(QStringView line)
+/// Whether \p line starts a member of the archive or a MIME part; \p raw,
+/// when given, is the line's undecoded bytes.
+bool startsMember(QStringView line, std::optional<QByteArrayView> raw = std::nullopt)
 {
     // Asked of every line read inside a member: its first character rules
-    // out the MIME forms, and a plain walk for a NUL the archive forms.
+    // out the MIME forms, and a NUL, which only a NUL byte decodes to, the
+    // archive forms. The bytes are searched a word at a time, half as many
+    // as the decoded text's.
     if (line.isEmpty())
         return false;
     const char16_t first = line.front().unicode();
     if ((first == u'-' && line.startsWith(u"--"))
         || (first == u'C' && line.startsWith(u"Content-Disposition:")))
         return true;
+    if (raw && !raw->contains('\0'))
+        return false;
     const char16_t* c = line.utf16();
     const char16_t* const end = c + line.size();
     while (c != end && *c != 0)
@@ -400,6 +428,22 @@ const LineSource::Marks& defMarks()
         return m;
     }();
     return marks;
+}
+
+/// Whether the raw line \p raw reads "end" once decoded and trimmed, told
+/// without decoding it: every ".def" member ends in one, and the line needs
+/// no string of its own. A line with other bytes around "end" than ASCII
+/// blanks is not taken here; it is decoded as any other.
+bool isEndLine(QByteArrayView raw)
+{
+    const auto blank = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
+    qsizetype from = 0;
+    qsizetype to = raw.size();
+    while (from < to && blank(raw[from]))
+        ++from;
+    while (to > from && blank(raw[to - 1]))
+        --to;
+    return raw.sliced(from, to - from) == QByteArrayView("end");
 }
 
 /// Reads the body of a member the scan reads whole (".def", ".chn", a MIME
@@ -483,8 +527,10 @@ void readDefMember(const MemberHeader& member, bool mime, ScanStep& step)
     QByteArrayView raw;
     if (mime || feed(member.rest.trimmed())) {
         while (inInputs ? step.in.nextRaw(raw) : step.in.nextMarked(raw, defMarks())) {
+            if (isEndLine(raw))
+                break;
             QString text = LineSource::decode(raw);
-            if (startsMember(text)) {
+            if (startsMember(text, raw)) {
                 step.pending = std::move(text);
                 break;
             }
@@ -678,7 +724,8 @@ QString referencedValue(ScanStep& step, QStringView nodePath, QStringView parame
 Then takeMember(QStringView line, ScanStep& step)
 {
     std::optional<MemberHeader> member;
-    const bool mime = !line.contains(QChar(0));
+    // A NUL in the text comes from a NUL byte only.
+    const bool mime = step.raw ? !step.raw->contains('\0') : !line.contains(QChar(0));
     if (!mime)
         member = archiveMemberHeader(line);
     else if (line.front() == u'C')
@@ -807,19 +854,22 @@ LoadResult scanScene(Scene& scene, LineSource& in, const SectionReaders& readers
 
     static const LineSource::Marks marks = ruleMarks();
     QString header;
-    ScanStep step { scene, in, readers, header, LoadOk, {}, {}, {}, 0 };
+    ScanStep step { scene, in, readers, header, LoadOk, {}, {}, {}, 0, {} };
     scene.parameterValue = [&step](QStringView node, QStringView parameter) {
         return referencedValue(step, node, parameter);
     };
     QByteArrayView raw;
     for (;;) {
         QString text;
-        if (!step.pending.isNull())
+        step.raw.reset();
+        if (!step.pending.isNull()) {
             std::swap(text, step.pending);
-        else if (mode == ScanMode::EveryLine ? in.nextRaw(raw) : in.nextMarked(raw, marks))
+        } else if (mode == ScanMode::EveryLine ? in.nextRaw(raw) : in.nextMarked(raw, marks)) {
             text = LineSource::decode(raw);
-        else
+            step.raw = raw;
+        } else {
             break;
+        }
         if (text.isEmpty() || text.front() == u'#')
             continue;
         if (applyRules(text, step) == Then::StopScan)
